@@ -4,7 +4,8 @@
 #include <cwchar>
 #include <iterator>
 
-CKXException::CKXException(int errorNr, const wchar_t* errorMessage) : m_iErrorNr(errorNr), m_szErrorMessage{} {
+CKXException::CKXException(int errorNr, const wchar_t* errorMessage)
+    : m_iErrorNr(errorNr), m_szErrorMessage{} {
   const std::size_t length = std::min(std::wcslen(errorMessage), std::size(m_szErrorMessage) - 1);
   std::copy_n(errorMessage, length, m_szErrorMessage);
 }
@@ -35,9 +36,11 @@ CKXPDFLibException::CKXPDFLibException(int errorNr, const wchar_t* errorMessage)
 CKXLayouterException::CKXLayouterException(int errorNr, const wchar_t* errorMessage)
     : CKXException(errorNr, errorMessage) {}
 
-CKXDOMException::CKXDOMException(int errorNr, const wchar_t* errorMessage) : CKXException(errorNr, errorMessage) {}
+CKXDOMException::CKXDOMException(int errorNr, const wchar_t* errorMessage)
+    : CKXException(errorNr, errorMessage) {}
 
-CKXXMLException::CKXXMLException(int errorNr, const wchar_t* errorMessage) : CKXException(errorNr, errorMessage) {}
+CKXXMLException::CKXXMLException(int errorNr, const wchar_t* errorMessage)
+    : CKXException(errorNr, errorMessage) {}
 
 CKXParserException::CKXParserException(int errorNr, const wchar_t* errorMessage)
     : CKXException(errorNr, errorMessage) {}
