@@ -16,7 +16,7 @@ else()
   # and SSE2 instead of the x87 stack on 32-bit x86.
   target_compile_options(zeb_build_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
-    -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wformat=2 -Werror
+    -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wformat=2
     -ffp-contract=off)
   if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86)$")
     target_compile_options(zeb_build_settings INTERFACE -msse2 -mfpmath=sse)
@@ -31,4 +31,11 @@ if(ZEB_SANITIZE)
   target_compile_options(zeb_build_settings INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(zeb_build_settings INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(ZEB_BUILD_FUZZ)
+  # Warnings of a second compiler do not stop fuzzing.
+  target_compile_options(zeb_build_settings INTERFACE -fsanitize=fuzzer-no-link)
+elseif(NOT MSVC)
+  target_compile_options(zeb_build_settings INTERFACE -Werror)
 endif()
