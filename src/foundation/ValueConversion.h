@@ -32,7 +32,7 @@ ZEB_EXPORT void UShortToString(unsigned short value, wchar_t* buffer);
 ZEB_EXPORT void DoubleToString(double value, wchar_t* buffer);
 /// As DoubleToString, of the value widened to double.
 ZEB_EXPORT void FloatToString(float value, wchar_t* buffer);
-/// Writes `digits` decimals; nothing is cut.
+/// Writes `digits` decimals, none for a negative count; nothing is cut.
 ZEB_EXPORT void DoubleToStringFormat(double value, wchar_t* buffer, int digits);
 
 /// The integer that the text begins with, 0 if it begins with none.
