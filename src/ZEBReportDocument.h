@@ -2,9 +2,18 @@
 
 // Every exported header of the library: the only include that a caller needs.
 
+#include "fonts/AFMKeys.h"
+#include "fonts/CIDMapping.h"
+#include "fonts/EncodingInformation.h"
 #include "fonts/Encodings.h"
+#include "fonts/FontCharMetricsInfo.h"
+#include "fonts/FontData.h"
+#include "fonts/FontMetrics.h"
 #include "fonts/Fonts.h"
 #include "fonts/GlobalFontHandler.h"
+#include "fonts/PDFCharCollName.h"
+#include "fonts/PostscriptFontMetrics.h"
+#include "fonts/TrueTypeFontMetrics.h"
 #include "foundation/IDManager.h"
 #include "foundation/KXException.h"
 #include "foundation/KXExceptionHandler.h"
