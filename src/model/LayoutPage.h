@@ -81,7 +81,7 @@ class ZEB_EXPORT CLayoutPage {
   LayoutRect* m_pPaperRect;                                     // owned, shared by copies
   LayoutRect* m_pBorderRect;                                    // owned, shared by copies
   CPlaceable* m_pPaperObject;                                   // owned, shared by copies
-  std::unique_ptr<zeb::OrderedElementList> m_pOrderedElements;  // its objects: observer
+  std::unique_ptr<zeb::OrderedElementList> m_pOrderedElements;  // never null; its objects: observer
   std::map<CPlaceable*, CPredecessors*> m_mapPredecessors;      // owned, shared by copies
   bool m_bOrderCalculated = false;
   CReportLayout* m_pReportLayout;  // observer

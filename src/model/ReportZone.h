@@ -19,8 +19,9 @@ class CTableCell;
 class CText;
 class CValueHolder;
 namespace zeb {
+class HeightGroupIndex;
 class OrderedElementList;
-}
+}  // namespace zeb
 namespace zebxmln {
 class CXMLNode;
 }
@@ -180,9 +181,10 @@ class ZEB_EXPORT CReportZone {
   std::vector<CRectangle*> m_rgpRectangleElements;  // owned, shared by copies
   std::vector<CLine*> m_rgpLineElements;            // owned, shared by copies
   std::map<const wchar_t*, CAvailableValueHolderBase*, KeyLess> m_mapAvailableValueHolders;  // observer
-  std::unique_ptr<zeb::OrderedElementList> m_pOrderedElements;  // its objects: observer
+  std::unique_ptr<zeb::OrderedElementList> m_pOrderedElements;  // never null; its objects: observer
   bool m_bOrderCalculated = false;
-  std::vector<CAdjustHeightElements*> m_rgpHeightElements;  // owned, shared by copies
+  std::vector<CAdjustHeightElements*> m_rgpHeightElements;     // owned, shared by copies
+  std::unique_ptr<zeb::HeightGroupIndex> m_pHeightGroupIndex;  // never null; the copy of a zone has a copy
   std::vector<std::wstring> m_rgstrFormulaValueHolderKeys;
   std::vector<std::wstring> m_rgstrSumValueHolderKeys;
   bool m_bFooterZone = false;
