@@ -1,0 +1,35 @@
+#include "foundation/IDBinding.h"
+
+#include "foundation/IDManager.h"
+
+namespace zeb {
+
+IDBinding::IDBinding(CIDManager& ids) : m_Tables(*ids.m_pTables) {}
+
+bool IDBinding::Bind(int id, void* object, ClassTag tag) { return m_Tables.Bind(id, {object, tag}); }
+
+BoundObject IDBinding::Find(int id) const {
+  const BoundObject* bound = m_Tables.Find(id);
+  return bound == nullptr ? BoundObject{} : *bound;
+}
+
+void* IDBinding::Find(int id, ClassTag tag) const {
+  const BoundObject bound = Find(id);
+  return bound.Tag == tag || bound.Tag == kUnknownClass ? bound.Object : nullptr;
+}
+
+bool IDBinding::IsBound(int id) const { return m_Tables.Find(id) != nullptr; }
+
+bool IDBinding::Own(void* object) { return m_Tables.Own(object); }
+
+bool IDBinding::IsOwned(void* object) const { return m_Tables.IsOwned(object); }
+
+void IDBinding::NoteNamedByRelation(void* object, ClassTag tag) {
+  m_Tables.AddNamedByRelation({object, tag});
+}
+
+std::vector<BoundObject> IDBinding::UnownedNamedByRelations() const {
+  return m_Tables.UnownedNamedByRelations();
+}
+
+}  // namespace zeb
