@@ -2,6 +2,12 @@
 
 #include "platform/Export.h"
 
+#include <memory>
+
+namespace zeb {
+class XMLTree;
+}
+
 namespace zebxmln {
 
 class CXMLNode;
@@ -19,8 +25,16 @@ class ZEB_EXPORT CXMLDocument {
   void SaveDocumentToFile(const wchar_t* path, bool);
   /// The root element, null if the document has none yet.
   CXMLNode* GetRootNode();
-  /// Makes the root element of a new document.
+  /// Makes the root element of a new document; one that is there already is replaced.
   CXMLNode* CreateRootNode(const wchar_t* name);
+
+ private:
+  friend class CXMLManager;
+
+  CXMLDocument();
+  ~CXMLDocument();
+
+  std::unique_ptr<zeb::XMLTree> m_pTree;  // owned
 };
 
 }  // namespace zebxmln
