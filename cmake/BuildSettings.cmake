@@ -15,7 +15,7 @@ else()
   # Results of number arithmetic are the same bits everywhere: no contraction of multiply and add,
   # and SSE2 instead of the x87 stack on 32-bit x86.
   target_compile_options(zeb_build_settings INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
     -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wformat=2
     -ffp-contract=off)
   if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86)$")

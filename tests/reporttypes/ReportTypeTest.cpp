@@ -1,0 +1,275 @@
+#include "reporttypes/ReportType.h"
+
+#include "foundation/KXException.h"
+#include "foundation/XMLFile.h"
+#include "reporttypes/AvailableVH.h"
+#include "reporttypes/ReportTypeZone.h"
+#include "support/Files.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+const std::filesystem::path kCatalogue = std::filesystem::path(ZEB_EXAMPLES) / "catalogue";
+
+std::wstring Sample(const char* name) { return zebtest::WidePath(kCatalogue / name); }
+
+class ReportTypeFile : public testing::Test {
+ protected:
+  std::wstring Write(const std::string& rootChildren) const {
+    zebtest::WriteFile(m_dir.File("type.xml"),
+                       "<ReportTypeRootElement>" + rootChildren + "</ReportTypeRootElement>");
+    return m_dir.WideFile("type.xml");
+  }
+  std::string Saved(CReportType& type) const {
+    type.SaveReportType(m_dir.WideFile("saved.xml").c_str());
+    return zebtest::ReadFile(m_dir.File("saved.xml"));
+  }
+
+  zebtest::TempDir m_dir;
+};
+
+std::string Document(const std::string& children) {
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ReportTypeRootElement>\n" + children +
+         "</ReportTypeRootElement>\n";
+}
+
+}  // namespace
+
+TEST_F(ReportTypeFile, OfANewTypeHoldsTheThreeFieldsAndNoZone) {
+  CReportType type;
+  EXPECT_EQ(Saved(type), Document("  <VersionNr>2</VersionNr>\n"
+                                  "  <ReportVersionNr>-1</ReportVersionNr>\n"
+                                  "  <ReportType/>\n"));
+}
+
+TEST_F(ReportTypeFile, OfTheSampleComesBackByteForByte) {
+  CReportType type;
+  type.LoadReportType(Sample("reporttype.xml").c_str());
+  EXPECT_EQ(Saved(type), zebtest::ReadFile(kCatalogue / "reporttype.xml"));
+}
+
+TEST_F(ReportTypeFile, OfGeneration2IsReadWhole) {
+  CReportType type;
+  type.LoadReportType(Sample("reporttype.xml").c_str());
+  EXPECT_STREQ(type.GetReportType(), L"Rechnung");
+  EXPECT_EQ(type.GetReportVersionNr(), 7);
+  ASSERT_EQ(type.GetReportTypeZonesCount(), 6);
+  const CReportTypeZone* head = type.GetReportTypeZoneAt(0);
+  EXPECT_STREQ(head->GetInternalName(), L"Kopf");
+  ASSERT_EQ(head->GetEquivalentInternalNameCount(), 1);
+  EXPECT_STREQ(head->GetEquivalentInternalNameAt(0), L"Briefkopf");
+  EXPECT_STREQ(head->GetExternalName(), L"Kopf");
+  EXPECT_STREQ(head->GetExternalDescription(), L"Anschrift, Rechnungsdaten und Anrede; einmal am Anfang");
+  EXPECT_FALSE(head->GetFooterZone());
+  const CAvailableVH* city = head->GetAvailableValueHolderAt(4);
+  EXPECT_STREQ(city->GetInternalName(), L"AD.Ort");
+  EXPECT_STREQ(city->GetExternalName(), L"Ort");
+  EXPECT_STREQ(city->GetExternalDescription(), L"");
+  EXPECT_EQ(city->GetValueHolderType(), 1);
+}
+
+TEST_F(ReportTypeFile, OfGeneration1HoldsTheSameZonesAndValueHolders) {
+  CReportType older;
+  CReportType newer;
+  older.LoadReportType(Sample("reporttype_v1.xml").c_str());
+  newer.LoadReportType(Sample("reporttype.xml").c_str());
+  ASSERT_EQ(older.GetReportTypeZonesCount(), newer.GetReportTypeZonesCount());
+  for (int z = 0; z < older.GetReportTypeZonesCount(); ++z) {
+    const CReportTypeZone* a = older.GetReportTypeZoneAt(z);
+    const CReportTypeZone* b = newer.GetReportTypeZoneAt(z);
+    EXPECT_STREQ(a->GetInternalName(), b->GetInternalName());
+    EXPECT_EQ(a->GetEquivalentInternalNameCount(), 0);
+    EXPECT_FALSE(a->GetFooterZone());
+    ASSERT_EQ(a->GetAvailableValueHolderCount(), b->GetAvailableValueHolderCount());
+    for (int v = 0; v < a->GetAvailableValueHolderCount(); ++v) {
+      EXPECT_STREQ(a->GetAvailableValueHolderAt(v)->GetInternalName(),
+                   b->GetAvailableValueHolderAt(v)->GetInternalName());
+      EXPECT_EQ(a->GetAvailableValueHolderAt(v)->GetValueHolderType(),
+                b->GetAvailableValueHolderAt(v)->GetValueHolderType());
+    }
+  }
+}
+
+TEST_F(ReportTypeFile, OfGeneration1WithTwoValueHoldersLoadsThemWithTheirTypes) {
+  CReportType type;
+  type.LoadReportType(
+      Write("<VersionNr>1</VersionNr><ReportTypeZone>"
+            "<InternalReportTypeZoneName>Z</InternalReportTypeZoneName>"
+            "<ReportTypeZoneAvailableValueHolder><InternalName>A</InternalName>"
+            "<AvailableValueHolderType>2</AvailableValueHolderType></ReportTypeZoneAvailableValueHolder>"
+            "<ReportTypeZoneAvailableValueHolder><InternalName>B</InternalName>"
+            "<AvailableValueHolderType>77</AvailableValueHolderType></ReportTypeZoneAvailableValueHolder>"
+            "</ReportTypeZone>")
+          .c_str());
+  ASSERT_EQ(type.GetReportTypeZonesCount(), 1);
+  const CReportTypeZone* zone = type.GetReportTypeZoneAt(0);
+  ASSERT_EQ(zone->GetAvailableValueHolderCount(), 2);
+  EXPECT_STREQ(zone->GetAvailableValueHolderAt(0)->GetInternalName(), L"A");
+  EXPECT_EQ(zone->GetAvailableValueHolderAt(0)->GetValueHolderType(), 2);
+  EXPECT_STREQ(zone->GetAvailableValueHolderAt(1)->GetInternalName(), L"B");
+  EXPECT_EQ(zone->GetAvailableValueHolderAt(1)->GetValueHolderType(), 77);
+}
+
+TEST_F(ReportTypeFile, FixedOfGeneration1IsSavedUnderItsOldNumberWithNewNames) {
+  CReportType type;
+  type.LoadReportType(
+      Write("<VersionNr>1</VersionNr><ReportVersionNr>4</ReportVersionNr><ReportType>T</ReportType>"
+            "<ReportTypeZone><InternalReportTypeZoneName>Z</InternalReportTypeZoneName></ReportTypeZone>")
+          .c_str());
+  EXPECT_EQ(Saved(type), Document("  <VersionNr>1</VersionNr>\n"
+                                  "  <ReportVersionNr>4</ReportVersionNr>\n"
+                                  "  <ReportType>T</ReportType>\n"
+                                  "  <ReportTypeZone>\n"
+                                  "    <InternalName>Z</InternalName>\n"
+                                  "    <ExternalName/>\n"
+                                  "    <ExternalDescription/>\n"
+                                  "  </ReportTypeZone>\n"));
+  CReportType again;
+  again.LoadReportType(m_dir.WideFile("saved.xml").c_str());
+  ASSERT_EQ(again.GetReportTypeZonesCount(), 1);
+  EXPECT_STREQ(again.GetReportTypeZoneAt(0)->GetInternalName(), L"");
+}
+
+TEST_F(ReportTypeFile, WithoutVersionCountsAsGeneration2) {
+  CReportType type;
+  type.LoadReportType(
+      Write("<ReportType>T</ReportType><ReportTypeZone><InternalName>Z</InternalName></ReportTypeZone>")
+          .c_str());
+  EXPECT_STREQ(type.GetReportType(), L"T");
+  ASSERT_EQ(type.GetReportTypeZonesCount(), 1);
+  EXPECT_STREQ(type.GetReportTypeZoneAt(0)->GetInternalName(), L"Z");
+}
+
+TEST_F(ReportTypeFile, FixedOrderOfTheFirstFieldsDecidesWhatIsRead) {
+  CReportType type;
+  type.LoadReportType(Write("<VersionNr>2</VersionNr><ReportType>T</ReportType>"
+                            "<ReportVersionNr>4</ReportVersionNr><ReportTypeZone/>")
+                          .c_str());
+  EXPECT_STREQ(type.GetReportType(), L"T");
+  EXPECT_EQ(type.GetReportVersionNr(), -1);
+  EXPECT_EQ(type.GetReportTypeZonesCount(), 0);
+}
+
+TEST_F(ReportTypeFile, EndsItsZonesAtTheFirstOtherElement) {
+  CReportType type;
+  type.LoadReportType(Write("<ReportTypeZone/><Other/><ReportTypeZone/>").c_str());
+  EXPECT_EQ(type.GetReportTypeZonesCount(), 1);
+}
+
+TEST_F(ReportTypeFile, DoesNotTestTheRootsName) {
+  zebtest::WriteFile(m_dir.File("type.xml"), "<Any><ReportType>T</ReportType></Any>");
+  CReportType type;
+  type.LoadReportType(m_dir.WideFile("type.xml").c_str());
+  EXPECT_STREQ(type.GetReportType(), L"T");
+}
+
+TEST_F(ReportTypeFile, WritesFooterZoneOnlyIfTrue) {
+  CReportType type;
+  auto* zone = new CReportTypeZone;
+  zone->SetInternalName(L"Z");
+  zone->SetFooterZone(true);
+  type.AddReportTypeZone(zone);
+  EXPECT_NE(Saved(type).find("<FooterZone>1</FooterZone>"), std::string::npos);
+  zone->SetFooterZone(false);
+  EXPECT_EQ(Saved(type).find("FooterZone"), std::string::npos);
+}
+
+TEST_F(ReportTypeFile, ReadsAZoneWithoutFooterZoneAsNone) {
+  CReportType type;
+  type.LoadReportType(Write("<ReportTypeZone><InternalName>Z</InternalName></ReportTypeZone>"
+                            "<ReportTypeZone><FooterZone>2</FooterZone></ReportTypeZone>")
+                          .c_str());
+  EXPECT_FALSE(type.GetReportTypeZoneAt(0)->GetFooterZone());
+  EXPECT_TRUE(type.GetReportTypeZoneAt(1)->GetFooterZone());
+}
+
+TEST_F(ReportTypeFile, LoadedTwiceDoublesTheZones) {
+  CReportType type;
+  type.LoadReportType(Sample("reporttype.xml").c_str());
+  type.LoadReportType(Sample("reporttype.xml").c_str());
+  EXPECT_EQ(type.GetReportTypeZonesCount(), 12);
+}
+
+TEST_F(ReportTypeFile, HoldsAnEmptyNodeForANullZoneAndNoneForANullValueHolder) {
+  CReportType type;
+  type.AddReportTypeZone(nullptr);
+  auto* zone = new CReportTypeZone;
+  zone->AddAvailableValueHolder(nullptr);
+  type.AddReportTypeZone(zone);
+  EXPECT_EQ(Saved(type), Document("  <VersionNr>2</VersionNr>\n"
+                                  "  <ReportVersionNr>-1</ReportVersionNr>\n"
+                                  "  <ReportType/>\n"
+                                  "  <ReportTypeZone/>\n"
+                                  "  <ReportTypeZone>\n"
+                                  "    <InternalName/>\n"
+                                  "    <ExternalName/>\n"
+                                  "    <ExternalDescription/>\n"
+                                  "  </ReportTypeZone>\n"));
+}
+
+TEST_F(ReportTypeFile, HoldsWhatACallerPutTogether) {
+  CReportType type;
+  type.SetReportType(L"T");
+  auto* zone = new CReportTypeZone;
+  zone->SetInternalName(L"Z");
+  zone->AddEquivalentInternalName(L"Y");
+  zone->AddEquivalentInternalName(L"Y");
+  zone->SetExternalName(L"Zone");
+  zone->SetExternalDescription(L"D");
+  auto* valueHolder = new CAvailableVH;
+  EXPECT_EQ(valueHolder->GetValueHolderType(), 0);
+  valueHolder->SetInternalName(L"K");
+  valueHolder->SetExternalName(L"N");
+  valueHolder->SetExternalDescription(L"E");
+  valueHolder->SetValueHolderType(static_cast<CAvailableVH::AvailableValueHolderType>(8));
+  zone->AddAvailableValueHolder(valueHolder);
+  type.AddReportTypeZone(zone);
+  EXPECT_EQ(Saved(type), Document("  <VersionNr>2</VersionNr>\n"
+                                  "  <ReportVersionNr>-1</ReportVersionNr>\n"
+                                  "  <ReportType>T</ReportType>\n"
+                                  "  <ReportTypeZone>\n"
+                                  "    <InternalName>Z</InternalName>\n"
+                                  "    <EquivalentInternalName>Y</EquivalentInternalName>\n"
+                                  "    <EquivalentInternalName>Y</EquivalentInternalName>\n"
+                                  "    <ExternalName>Zone</ExternalName>\n"
+                                  "    <ExternalDescription>D</ExternalDescription>\n"
+                                  "    <VH>\n"
+                                  "      <Key>K</Key>\n"
+                                  "      <Name>N</Name>\n"
+                                  "      <Desc>E</Desc>\n"
+                                  "      <Type>8</Type>\n"
+                                  "    </VH>\n"
+                                  "  </ReportTypeZone>\n"));
+}
+
+TEST_F(ReportTypeFile, FixedZoneWithoutVersionNumberReadsGeneration1) {
+  zebtest::WriteFile(m_dir.File("zone.xml"),
+                     "<Z><InternalReportTypeZoneName>old</InternalReportTypeZoneName>"
+                     "<InternalName>new</InternalName></Z>");
+  const zeb::XMLFile file = zeb::XMLFile::Load(m_dir.WideFile("zone.xml").c_str());
+  CReportTypeZone zone;
+  EXPECT_TRUE(zone.Load(file.Root()));
+  EXPECT_STREQ(zone.GetInternalName(), L"old");
+}
+
+TEST_F(ReportTypeFile, ThatIsMissingOrMalformedOrNotWritableIsAnXMLException) {
+  CReportType type;
+  EXPECT_THROW(type.LoadReportType(m_dir.WideFile("missing.xml").c_str()), CKXXMLException);
+  EXPECT_THROW(type.LoadReportType(Write("<open>").c_str()), CKXXMLException);
+  EXPECT_THROW(type.SaveReportType(m_dir.WideFile("no/such/folder.xml").c_str()), CKXXMLException);
+}
+
+TEST(ReportType, CopySharesItsZones) {
+  CReportType type;
+  type.SetReportType(L"T");
+  type.AddReportTypeZone(new CReportTypeZone);
+  // Both objects would delete the zone, so the copy is never destroyed.
+  static const CReportType* const copy = new CReportType(type);
+  EXPECT_EQ(copy->GetReportTypeZoneAt(0), type.GetReportTypeZoneAt(0));
+  EXPECT_STREQ(copy->GetReportType(), L"T");
+}
