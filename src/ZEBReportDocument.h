@@ -17,6 +17,7 @@
 #include "foundation/IDManager.h"
 #include "foundation/KXException.h"
 #include "foundation/KXExceptionHandler.h"
+#include "foundation/Rounding.h"
 #include "foundation/ValueConversion.h"
 #include "foundation/XMLDocument.h"
 #include "foundation/XMLManager.h"

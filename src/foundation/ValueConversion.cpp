@@ -116,12 +116,12 @@ bool PrintPlainFloat(float value, wchar_t* buffer) {
 
 CSetLocaleSwitch::CSetLocaleSwitch() { zeb::SetNumericLocaleToC(); }
 
-CSetLocaleSwitch::CSetLocaleSwitch(const CSetLocaleSwitch& /*other*/) {}
+CSetLocaleSwitch::CSetLocaleSwitch(const CSetLocaleSwitch& other) = default;
 
 // Fixed behaviour: ends in the user's default locale, also inside an outer switch.
 CSetLocaleSwitch::~CSetLocaleSwitch() { zeb::SetNumericLocaleToUserDefault(); }
 
-CSetLocaleSwitch& CSetLocaleSwitch::operator=(const CSetLocaleSwitch& /*other*/) { return *this; }
+CSetLocaleSwitch& CSetLocaleSwitch::operator=(const CSetLocaleSwitch& other) = default;
 
 void BoolToString(bool value, wchar_t* buffer) { IntToString(value ? 1 : 0, buffer); }
 

@@ -12,6 +12,7 @@
 #include <limits>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 using zebtest::ScopedEnvironment;
 using zebtest::ScopedLocale;
@@ -26,9 +27,9 @@ std::wstring Print(void (*print)(Value, wchar_t*), Value value) {
 }
 
 std::wstring Format(double value, int digits) {
-  std::wstring buffer(3000, L'x');
+  std::vector<wchar_t> buffer(3000, L'x');
   DoubleToStringFormat(value, buffer.data(), digits);
-  return buffer.c_str();
+  return buffer.data();
 }
 
 std::uint32_t Bits(float value) {
