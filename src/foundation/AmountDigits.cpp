@@ -104,7 +104,8 @@ std::wstring FractionToText(std::wstring_view fraction) {
   if (fraction.size() == 1) return ChunkToText(fraction) + kTenth;
   const double parts = StringToDouble((L"0." + std::wstring(fraction)).c_str());
   std::array<wchar_t, 16> hundredths{};
-  IntToString(static_cast<int>(parts * 100.0 + 0.5), hundredths.data());
+  const double rounded = parts * 100.0 + 0.5;
+  IntToString(static_cast<int>(rounded), hundredths.data());
   // Fixed behaviour: the number's first and last digit are used: one digit serves twice, and of 100 the 1 and the 0.
   const std::wstring_view digits = hundredths.data();
   return {DigitCharacter(digits.front()), kTenth, DigitCharacter(digits.back()), kHundredth};

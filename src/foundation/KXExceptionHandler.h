@@ -5,6 +5,10 @@
 #include <map>
 #include <string>
 
+namespace zebxmln {
+class CXMLNode;
+}
+
 /// Raises the system's failures by key. The catalogue file "KXErrorMessages.xml" says for each key its family
 /// (which decides the exception's class), its number and its message; without an entry the exception is a plain
 /// CKXException with number -1. One object for the process, without a lock.
@@ -13,6 +17,8 @@ class ZEB_EXPORT CKXExceptionHandler {
   /// The one handler, made at the first call.
   static CKXExceptionHandler& GetInstance();
   virtual ~CKXExceptionHandler();
+  CKXExceptionHandler(const CKXExceptionHandler& other) = delete;
+  CKXExceptionHandler& operator=(const CKXExceptionHandler& other) = delete;
 
   /// Sets the folder of the catalogue (a backslash is appended unless it ends in one) and reads it at once.
   void SetExceptionPathName(const wchar_t* path);
@@ -28,15 +34,17 @@ class ZEB_EXPORT CKXExceptionHandler {
 
  protected:
   CKXExceptionHandler();
-  CKXExceptionHandler(const CKXExceptionHandler& other) = delete;
-  CKXExceptionHandler& operator=(const CKXExceptionHandler& other) = delete;
+
+  /// The catalogue by key. A null entry stands for a key that raises nothing.
+  struct ExceptionEntry;
+  std::map<std::wstring, ExceptionEntry*> m_rgpExceptions;  // owned
 
  private:
-  struct ExceptionEntry;
-
+  void ReadCatalogueOfPath();
+  void ReadFamilies(zebxmln::CXMLNode* root);
+  void AddEntry(const std::wstring& key, const ExceptionEntry& entry);
   void Throw(const wchar_t* key, const wchar_t* additionalText);
 
-  std::map<std::wstring, ExceptionEntry*> m_rgpExceptions;  // owned
   std::wstring m_strFileName;
   std::wstring m_strExceptionPath;
   int m_iVersionNr = 1;

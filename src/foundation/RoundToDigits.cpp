@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <numeric>
 #include <vector>
 
 namespace zeb {
@@ -36,10 +37,9 @@ double RoundDigitByDigit(double magnitude, int digits) {
     // Nothing follows a fraction of zero: each further step would add exactly 0. A NaN stays one.
     if (fraction == 0.0 || std::isnan(fraction)) break;
   }
-  double result = digits > kMostTableDigits ? rest : RoundByTable(rest, kMostTableDigits);
-  for (auto integer = integers.rbegin(); integer != integers.rend(); ++integer)
-    result = *integer + result / 10.0;
-  return result;
+  const double result = digits > kMostTableDigits ? rest : RoundByTable(rest, kMostTableDigits);
+  return std::accumulate(integers.rbegin(), integers.rend(), result,
+                         [](double decimals, double integer) { return integer + decimals / 10.0; });
 }
 
 double RoundToInteger(double magnitude) {

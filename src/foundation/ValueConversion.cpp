@@ -121,7 +121,7 @@ CSetLocaleSwitch::CSetLocaleSwitch(const CSetLocaleSwitch& other) = default;
 // Fixed behaviour: ends in the user's default locale, also inside an outer switch.
 CSetLocaleSwitch::~CSetLocaleSwitch() { zeb::SetNumericLocaleToUserDefault(); }
 
-CSetLocaleSwitch& CSetLocaleSwitch::operator=(const CSetLocaleSwitch& other) = default;
+CSetLocaleSwitch& CSetLocaleSwitch::operator=(const CSetLocaleSwitch& /*other*/) = default;
 
 void BoolToString(bool value, wchar_t* buffer) { IntToString(value ? 1 : 0, buffer); }
 
