@@ -6,9 +6,13 @@
 
 TEST(KXException, KeepsNumberAndMessage) {
   const CKXFileException exception(2001, L"Datei");
-  const CKXException copy = exception;  // NOLINT(cppcoreguidelines-slicing): exceptions are copied by value
+  CKXException copy = exception;  // NOLINT(cppcoreguidelines-slicing): exceptions are copied by value
   EXPECT_EQ(copy.GetErrorNr(), 2001);
   EXPECT_STREQ(copy.GetErrorMessage(), L"Datei");
+  EXPECT_NE(copy.GetErrorMessage(), exception.GetErrorMessage());
+  copy = CKXException(-1, L"");
+  EXPECT_EQ(copy.GetErrorNr(), -1);
+  EXPECT_STREQ(copy.GetErrorMessage(), L"");
 }
 
 TEST(KXException, KeepsAtMost4095CharactersOfAMessage) {
