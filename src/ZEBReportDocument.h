@@ -17,6 +17,8 @@
 #include "foundation/IDManager.h"
 #include "foundation/KXException.h"
 #include "foundation/KXExceptionHandler.h"
+#include "foundation/LogEntry.h"
+#include "foundation/ProtocolData.h"
 #include "foundation/Rounding.h"
 #include "foundation/ValueConversion.h"
 #include "foundation/XMLDocument.h"

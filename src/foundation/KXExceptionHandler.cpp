@@ -3,6 +3,7 @@
 #include "foundation/KXException.h"
 #include "foundation/RecordReader.h"
 #include "foundation/XMLDocument.h"
+#include "foundation/XMLDocumentPtr.h"
 #include "foundation/XMLManager.h"
 #include "foundation/XMLNode.h"
 
@@ -37,10 +38,6 @@ constexpr std::array kFamilies = {
     Family{L"ParserException", &Raise<CKXParserException>},
 };
 
-struct DestroyDocument {
-  void operator()(zebxmln::CXMLDocument* document) const { document->DestroyDocument(); }
-};
-
 }  // namespace
 
 struct CKXExceptionHandler::ExceptionEntry {
@@ -72,7 +69,7 @@ const wchar_t* CKXExceptionHandler::GetExceptionNamePath() const { return m_strE
 void CKXExceptionHandler::ReadExceptions(const wchar_t* fileName) {
   m_strFileName = fileName;
   try {
-    const std::unique_ptr<zebxmln::CXMLDocument, DestroyDocument> document(
+    const zeb::XMLDocumentPtr document(
         zebxmln::CXMLManager::GetInstance().LoadDocument(fileName, true, false, nullptr, false, false));
     ReadFamilies(document->GetRootNode());
     m_bRead = true;
