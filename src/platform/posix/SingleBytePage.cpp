@@ -54,6 +54,7 @@ std::optional<std::int32_t> Converter::Convert(unsigned char byte) const {
 }
 
 std::optional<SingleBytePage> MakePage(const std::string& name) {
+  if (name.empty()) return std::nullopt;  // would be the encoding of the locale
   const Converter converter(name);
   if (!converter.IsOpen()) return std::nullopt;
   SingleBytePage page = {};
