@@ -30,10 +30,8 @@ void HeightGroupIndex::Join(Groups& groups, CPlaceable* element, CPlaceable* ref
 }
 
 void HeightGroupIndex::AddGroup(Groups& groups) {
-  auto group = std::make_unique<CAdjustHeightElements>();
-  group->m_pChangeCount = m_pChangeCount;
-  groups.push_back(group.get());
-  group.release();
+  groups.push_back(new CAdjustHeightElements);
+  groups.back()->m_pChangeCount = m_pChangeCount;
 }
 
 void HeightGroupIndex::AddNewElement(CAdjustHeightElements& group, CPlaceable* object) {
