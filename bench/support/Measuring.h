@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace zebbench {
+
+/// A folder for the files of a benchmark, removed with this object.
+class ScratchFolder {
+ public:
+  ScratchFolder();
+  ~ScratchFolder();
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return m_Path; }
+
+ private:
+  std::filesystem::path m_Path;
+};
+
+/// The most memory that this process ever had resident, in MB; 0 where the system does not tell.
+double PeakMegabytes();
+
+/// Starts this program once more with `arguments` and gives the number that it prints: how a measurement gets a process
+/// of its own, so that none sees the memory of another.
+double RunAlone(const std::string& arguments);
+
+}  // namespace zebbench
