@@ -3,9 +3,24 @@
 #include "foundation/ValueConversion.h"
 #include "foundation/XMLTree.h"
 
+#include <array>
+
 namespace zeb {
 
 using zebxmln::CXMLNode;
+
+namespace {
+
+/// Converts the text of an element, if there is one. Numbers are short: most need no wide text in the document.
+template <class Value>
+bool ReadNumber(CXMLNode* element, Value (*convert)(const wchar_t*), Value& value) {
+  if (element == nullptr) return false;
+  std::array<wchar_t, 64> text;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the copy
+  value = convert(XMLTree::CopyShortText(*element, text) ? text.data() : element->GetNodeText());
+  return true;
+}
+
+}  // namespace
 
 RecordReader::RecordReader(CXMLNode* record) : m_ppCursor(record->GetChildNodes()) {}
 
@@ -31,22 +46,14 @@ bool RecordReader::Read(ElementName name, std::wstring& value) {
   return element != nullptr;
 }
 
-bool RecordReader::Read(ElementName name, int& value) {
-  CXMLNode* element = Take(name);
-  if (element != nullptr) value = StringToInt(element->GetNodeText());
-  return element != nullptr;
-}
+bool RecordReader::Read(ElementName name, int& value) { return ReadNumber(Take(name), &StringToInt, value); }
 
 bool RecordReader::Read(ElementName name, float& value) {
-  CXMLNode* element = Take(name);
-  if (element != nullptr) value = StringToFloat(element->GetNodeText());
-  return element != nullptr;
+  return ReadNumber(Take(name), &StringToFloat, value);
 }
 
 bool RecordReader::Read(ElementName name, bool& value) {
-  CXMLNode* element = Take(name);
-  if (element != nullptr) value = StringToBool(element->GetNodeText());
-  return element != nullptr;
+  return ReadNumber(Take(name), &StringToBool, value);
 }
 
 }  // namespace zeb

@@ -104,6 +104,20 @@ void XMLTree::CopyText(const Node& node, std::wstring& text) {
   }
 }
 
+bool XMLTree::CopyShortText(const Node& node, std::span<wchar_t> text) {
+  const bool isText = node.m_Content == Node::Content::Utf8Text || node.m_Content == Node::Content::WideText;
+  const std::size_t count = isText ? node.m_uiCount : 0;
+  if (count >= text.size()) return false;
+  std::size_t written = 0;
+  if (node.m_Content == Node::Content::WideText) {
+    written = std::wstring_view(node.m_pWide, count).copy(text.data(), count);
+  } else if (isText) {
+    written = DecodeUtf8({node.m_pUtf8, count}, text.data());
+  }
+  text[written] = L'\0';
+  return true;
+}
+
 void XMLTree::SetText(Node& node, std::wstring_view text) {
   if (SurvivesUtf8(text)) {
     SetUtf8Text(node, WideToUtf8(text));

@@ -63,6 +63,9 @@ class XMLTree {
   static std::string_view Utf8TextOf(const Node& node, std::string& storage);
   /// Copies the text without keeping wide characters in the document.
   static void CopyText(const Node& node, std::wstring& text);
+  /// Copies a text that is short enough, terminated.
+  /// @return whether it was; `text` is of no use otherwise
+  static bool CopyShortText(const Node& node, std::span<wchar_t> text);
   static void SetText(Node& node, std::wstring_view text);
   /// @param utf8 well-formed
   static void SetUtf8Text(Node& node, std::string_view utf8);
