@@ -21,6 +21,7 @@ class CValueHolder;
 namespace zeb {
 class HeightGroupIndex;
 class OrderedElementList;
+class ZoneReader;
 }  // namespace zeb
 namespace zebxmln {
 class CXMLNode;
@@ -166,13 +167,15 @@ class ZEB_EXPORT CReportZone {
   void AddRelationsToOrderVector(CPlaceable* element, bool throwIfNotSortable);
   /// Index of the key in the formula keys, -1 if it is not listed.
   int FindFormulaValueHolderKey(const wchar_t* key) const;
-  /// Brings the cells into the order of table, row and column if they are marked as unsorted.
+  /// Brings the cells into the order of table, row and column; cells of one place come out in reverse order.
   void SortTableCells();
 
  private:
   struct KeyLess {
     bool operator()(const wchar_t* left, const wchar_t* right) const;
   };
+
+  friend class zeb::ZoneReader;
 
   std::wstring m_strInternalReportZoneName;
   std::vector<CValueHolder*> m_rgpValueHolders;     // owned, shared by copies
