@@ -60,6 +60,8 @@ class ZEB_EXPORT CReportLayout {
   void SetCurrentVersionNr();
 
  private:
+  void LocalizeFontNames();
+
   CGlobalFontHandler* m_pFontHandler;  // owned, shared by copies
   int m_iVersionNr = 3;
   bool m_bFirstPageIndependent = false;
