@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+class CIDManager;
 class CPlaceable;
 class CReportDocument;
 class CReportLayout;
@@ -84,6 +85,11 @@ class ZEB_EXPORT CReportRootElement {
   static void ClearDeletedObjects();
 
  private:
+  void ReadFiles(const wchar_t* reportFile, const wchar_t* layoutFile);
+  void ReadLayoutFile(const wchar_t* layoutFile, CIDManager& ids);
+  void WriteLayoutFile(const wchar_t* layoutFile);
+  void WriteReportFile(const wchar_t* reportFile);
+
   CReportDocument* m_pReportDocument = nullptr;  // owned, shared by copies
   CReportLayout* m_pReportLayout = nullptr;      // owned, shared by copies
   std::wstring m_strReportFile;
