@@ -1,8 +1,8 @@
 #include "formula/FormulaParser.h"
 
 #include "formula/BiOperation.h"
-#include "formula/FormulaTestSupport.h"
 #include "formula/FunktionOperation.h"
+#include "formula/OpenParser.h"
 #include "formula/PrefixOperations.h"
 #include "formula/StringOperations.h"
 #include "formula/TransparentOperation.h"
@@ -19,6 +19,7 @@
 #include <limits>
 #include <type_traits>
 
+using formulatest::ExpectError;
 using formulatest::Run;
 using testing::ElementsAre;
 
@@ -26,35 +27,7 @@ namespace {
 
 const double kPi = 2.0 * std::asin(1.0);
 
-/// Shows the list of operations and lets a test edit it.
-template <class Parser>
-class OpenParser : public Parser {
- public:
-  using Parser::Parser;
-  using Parser::operator=;
-  using Parser::DeleteOperation;
-  using Parser::GetFirstOperation;
-  using Parser::GetNextOperation;
-  using Parser::InsertOperationBefore;
-  using Parser::ReplaceOperation;
-
-  std::vector<const Operation*> Chain() {
-    std::vector<const Operation*> chain;
-    for (Operation* operation = this->GetFirstOperation(); operation != nullptr;
-         operation = this->GetNextOperation(operation)) {
-      chain.push_back(operation);
-    }
-    return chain;
-  }
-};
-
-using OpenFormulaParser = OpenParser<CFormulaParser>;
-
-void ExpectError(CFormulaParser& parser, const wchar_t* key, int position, bool compute = true) {
-  const formulatest::Outcome outcome = Run(parser, compute);
-  EXPECT_EQ(outcome.key, key);
-  EXPECT_EQ(outcome.position, position);
-}
+using OpenFormulaParser = formulatest::OpenParser<CFormulaParser>;
 
 }  // namespace
 
