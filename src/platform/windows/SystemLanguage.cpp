@@ -1,0 +1,11 @@
+#include "platform/SystemLanguage.h"
+
+#include <windows.h>
+
+namespace zeb {
+
+std::uint16_t SystemLanguage() { return GetSystemDefaultLangID(); }
+
+int SystemCodePage() { return static_cast<int>(GetACP()); }
+
+}  // namespace zeb
