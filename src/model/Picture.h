@@ -2,6 +2,10 @@
 
 #include "model/Placeable.h"
 
+namespace zebxmln {
+class CXMLBinNode;
+}
+
 /// A placed picture: the bytes of an image file as they are, whatever their format.
 ///
 /// Owns the block of bytes. A copy shares it with its source, so that only one of the two may be destroyed.
@@ -33,7 +37,9 @@ class ZEB_EXPORT CPicture : public CPlaceable {
   void LoadPictureFromMem(unsigned char* data, int length);
 
  private:
-  void FreePicture();
+  void ReadContent(zebxmln::CXMLBinNode& content);
+  /// Frees the present block and puts another in its place.
+  void TakeBlock(unsigned char* block, int length);
 
   unsigned char* m_pPictureData = nullptr;  // owned (malloc, free), shared by copies
   int m_iPictureLength = 0;
