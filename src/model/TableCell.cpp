@@ -1,16 +1,45 @@
 #include "model/TableCell.h"
 
+#include "foundation/RecordReader.h"
+#include "foundation/RecordWriter.h"
+#include "model/ElementNames.h"
+#include "model/ObjectReference.h"
+
 #include <cstddef>
 #include <tuple>
+
+namespace {
+
+constexpr zeb::ElementName kTableID = L"TableID";
+constexpr zeb::ElementName kRowIndex = L"RowIndex";
+constexpr zeb::ElementName kColIndex = L"ColIndex";
+
+}  // namespace
 
 CTableCell::CTableCell() = default;
 CTableCell::CTableCell(const CTableCell& other) = default;
 CTableCell::~CTableCell() = default;
 CTableCell& CTableCell::operator=(const CTableCell& other) = default;
 
-bool CTableCell::Load(zebxmln::CXMLNode* /*node*/, CIDManager& /*idManager*/) { return true; }
+bool CTableCell::Load(zebxmln::CXMLNode* node, CIDManager& idManager) {
+  zeb::RecordReader reader(node);
+  zeb::ReadOwnID(reader, zeb::Elements::TableCellID, idManager, this);
+  if (auto* const placeable = reader.Take(zeb::Elements::Placeable)) CPlaceable::Load(placeable, idManager);
+  reader.Read(kTableID, m_iTableID);
+  reader.Read(kRowIndex, m_iRowIndex);
+  reader.Read(kColIndex, m_iColIndex);
+  return true;
+}
 
-bool CTableCell::Save(zebxmln::CXMLNode* /*node*/, CIDManager& /*idManager*/) { return true; }
+bool CTableCell::Save(zebxmln::CXMLNode* node, CIDManager& idManager) {
+  zeb::RecordWriter writer(node, zeb::Elements::TableCell);
+  zeb::WriteID(writer, zeb::Elements::TableCellID, idManager, this);
+  CPlaceable::Save(writer.Node(), idManager);
+  writer.Write(kTableID, m_iTableID);
+  writer.Write(kRowIndex, m_iRowIndex);
+  writer.Write(kColIndex, m_iColIndex);
+  return true;
+}
 
 void CTableCell::AddCellElement(CPlaceable* element) { m_rgpCellElements.push_back(element); }
 
