@@ -34,8 +34,10 @@ class Arena {
 
   template <class T>
   T* AllocateArray(std::size_t count) {
-    if (count > static_cast<std::size_t>(-1) / sizeof(T)) throw std::bad_array_new_length();
-    return static_cast<T*>(Allocate(count * sizeof(T), alignof(T)));
+    constexpr std::size_t kItem =
+        sizeof(T);  // NOLINT(bugprone-sizeof-expression): arrays of pointers are meant
+    if (count > static_cast<std::size_t>(-1) / kItem) throw std::bad_array_new_length();
+    return static_cast<T*>(Allocate(count * kItem, alignof(T)));
   }
 
   /// Gives back the end of the youngest allocation.

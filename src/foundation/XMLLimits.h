@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 // What the XML facility takes at most of a single file, so that a hostile one cannot use time or memory out of
 // proportion to its length. Depth, number of elements and length of texts have no limit of their own.
@@ -9,16 +10,16 @@ namespace zeb {
 /// Entities that a document type may declare. Entities within entities are expanded by recursion.
 inline constexpr int kMaxXMLEntities = 1000;
 
-/// Attributes with a default value that a document type may declare: each costs time at every element.
-inline constexpr int kMaxXMLDefaultAttributes = 100;
+/// Attributes that a document type may declare: each costs time at every element that may have it.
+inline constexpr int kMaxXMLDeclaredAttributes = 200;
 
 /// How many times its own length a file may grow by its entities, once what they gave has reached the threshold. The
 /// parser's own limit, which is more generous, stays on.
-inline constexpr std::size_t kMaxXMLAmplification = 10;
-inline constexpr std::size_t kXMLAmplificationThreshold = 1048576;
+inline constexpr std::uint64_t kMaxXMLAmplification = 10;
+inline constexpr std::uint64_t kXMLAmplificationThreshold = 1048576;
 
 /// Levels up to which nested elements are indented on writing: the indentation of a document grows with the square of
 /// its depth.
-inline constexpr std::size_t kMaxXMLIndentation = 64;
+inline constexpr std::size_t kMaxXMLIndentation = 32;
 
 }  // namespace zeb

@@ -9,6 +9,7 @@
 #include <expat.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <new>
@@ -75,10 +76,10 @@ class TreeBuilder {
   bool m_bIsLeaf = false;               // whether the innermost element has no children so far
   bool m_bOutOfMemory = false;
   const wchar_t* m_pExcess = nullptr;
-  std::size_t m_iGiven = 0;
-  std::size_t m_iMostGiven = 0;
+  std::uint64_t m_iGiven = 0;
+  std::uint64_t m_iMostGiven = 0;
   int m_iEntities = 0;
-  int m_iDefaultAttributes = 0;
+  int m_iDeclaredAttributes = 0;
 };
 
 TreeBuilder::TreeBuilder(XML_Parser parser, XMLTree& tree) : m_Parser(parser), m_Tree(tree) {
@@ -119,10 +120,10 @@ void TreeBuilder::OnText(void* userData, const XML_Char* text, int length) {
 
 void TreeBuilder::OnAttributeDeclaration(void* userData, const XML_Char* /*element*/,
                                          const XML_Char* /*attribute*/, const XML_Char* /*type*/,
-                                         const XML_Char* defaultValue, int /*isRequired*/) {
+                                         const XML_Char* /*defaultValue*/, int /*isRequired*/) {
   TreeBuilder& self = From(userData);
-  if (defaultValue != nullptr && ++self.m_iDefaultAttributes > kMaxXMLDefaultAttributes) {
-    self.Refuse(L"too many attributes with a default value");
+  if (++self.m_iDeclaredAttributes > kMaxXMLDeclaredAttributes) {
+    self.Refuse(L"too many declared attributes");
   }
 }
 
