@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zebreport {
+
+/// The arguments of one command. A command takes its options first and then the rest.
+class ArgumentReader {
+ public:
+  explicit ArgumentReader(std::vector<std::wstring> arguments);
+
+  /// Takes an option and the `count` values behind it, wherever they stand; nothing if the option is not there.
+  /// @throws UsageFailure if a value is missing
+  std::optional<std::vector<std::wstring>> TakeOption(const std::wstring& name, std::size_t count);
+
+  /// Takes the first argument, the command; "help" if there is none.
+  std::wstring TakeFirst();
+
+  /// Takes all that is left.
+  /// @param names what each argument is; all of them are needed
+  /// @throws UsageFailure if there are more or fewer arguments, or an option that nobody has taken
+  std::vector<std::wstring> TakeRest(const std::vector<std::wstring>& names);
+
+ private:
+  std::vector<std::wstring> m_arguments;
+};
+
+}  // namespace zebreport

@@ -1,0 +1,28 @@
+#include "Commands.h"
+
+namespace zebreport {
+
+namespace {
+
+constexpr Command kCommands[] = {
+    {L"show", L"REPORT [--layout LAYOUT]", L"prints the report with all its zones, objects and pages",
+     RunShow},
+    {L"order", L"REPORT [--layout LAYOUT]", L"prints the order in which the objects must be placed",
+     RunOrder},
+    {L"copy", L"REPORT OUT [--layout LAYOUT LAYOUTOUT]", L"loads the report, saves it and checks the copy",
+     RunCopy},
+    {L"help", L"", L"prints this text", RunHelp},
+};
+
+}  // namespace
+
+std::span<const Command> AllCommands() { return kCommands; }
+
+const Command* FindCommand(const std::wstring& name) {
+  for (const Command& command : kCommands) {
+    if (name == command.name) return &command;
+  }
+  return nullptr;
+}
+
+}  // namespace zebreport

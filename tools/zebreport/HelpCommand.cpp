@@ -1,0 +1,22 @@
+#include "Commands.h"
+
+namespace zebreport {
+
+int RunHelp(ArgumentReader& arguments, std::wstring& output) {
+  arguments.TakeRest({});
+  output += L"zebreport looks into report and layout files.\n\n";
+  for (const Command& command : AllCommands()) {
+    output += std::wstring(L"  zebreport ") + command.name;
+    if (*command.usage != L'\0') output += std::wstring(L" ") + command.usage;
+    output += std::wstring(L"\n      ") + command.summary + L"\n";
+  }
+  output +=
+      L"\n"
+      L"Without --layout, show and order take the layout file that the report names, from the report's "
+      L"folder.\n"
+      L"--catalogue FOLDER names the folder of the error catalogue, KXErrorMessages.xml.\n"
+      L"Exit codes: 0 done, 1 a file could not be read, written or understood, 2 wrong usage.\n";
+  return 0;
+}
+
+}  // namespace zebreport

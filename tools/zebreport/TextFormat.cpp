@@ -1,0 +1,73 @@
+#include "TextFormat.h"
+
+#include <array>
+#include <charconv>
+
+namespace zebreport {
+
+namespace {
+
+constexpr std::size_t kShortLength = 40;
+constexpr int kDecimals = 6;
+
+}  // namespace
+
+std::wstring Number(float value) {
+  // Room for the greatest float and its decimals.
+  std::array<char, 64> digits{};
+  char* end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, kDecimals)
+          .ptr;
+  std::wstring text(digits.data(), end);
+  if (text.find(L'.') != std::wstring::npos) {
+    text.erase(text.find_last_not_of(L'0') + 1);
+    if (text.back() == L'.') text.pop_back();
+  }
+  return text == L"-0" ? L"0" : text;
+}
+
+std::wstring Quoted(const std::wstring& text) {
+  std::wstring quoted = L"\"";
+  for (const wchar_t character : text) {
+    switch (character) {
+      case L'\n':
+        quoted += L"\\n";
+        break;
+      case L'\r':
+        quoted += L"\\r";
+        break;
+      case L'\t':
+        quoted += L"\\t";
+        break;
+      case L'"':
+      case L'\\':
+        quoted += L'\\';
+        quoted += character;
+        break;
+      default:
+        quoted += character;
+    }
+  }
+  return quoted + L"\"";
+}
+
+std::wstring QuotedShort(const std::wstring& text) {
+  return text.size() <= kShortLength ? Quoted(text) : Quoted(text.substr(0, kShortLength)) + L"...";
+}
+
+std::wstring Joined(const std::vector<std::wstring>& parts) {
+  std::wstring joined;
+  for (const std::wstring& part : parts) {
+    if (!joined.empty()) joined += L", ";
+    joined += part;
+  }
+  return joined;
+}
+
+void Lines::Add(int level, const std::wstring& line) {
+  m_text.append(static_cast<std::size_t>(level) * 2, L' ');
+  m_text += line;
+  m_text += L'\n';
+}
+
+}  // namespace zebreport

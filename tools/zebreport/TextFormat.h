@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zebreport {
+
+/// The number as files keep it, with at most six decimals and a decimal point whatever the locale: 12, 0.5.
+std::wstring Number(float value);
+
+/// The text in quotes on one line: line ends, tabs, quotes and backslashes are escaped.
+std::wstring Quoted(const std::wstring& text);
+
+/// As Quoted, but cut to a length that fits beside other words, with three points at the end.
+std::wstring QuotedShort(const std::wstring& text);
+
+/// The parts with ", " between them.
+std::wstring Joined(const std::vector<std::wstring>& parts);
+
+/// Collects lines, indented by two spaces per level.
+class Lines {
+ public:
+  explicit Lines(std::wstring& text) : m_text(text) {}
+
+  void Add(int level, const std::wstring& line);
+
+ private:
+  std::wstring& m_text;
+};
+
+}  // namespace zebreport
