@@ -14,13 +14,15 @@ class ObjectNumbers {
   using Number = std::uint32_t;
   static constexpr Number kNone = UINT32_MAX;
 
+  /// Makes room for so many objects.
+  void Reserve(std::size_t count);
   /// The object's number; an object that is met for the first time gets the next one.
   Number Of(CPlaceable* object);
   CPlaceable* Object(Number number) const { return m_Objects[number]; }
 
  private:
   std::size_t SlotOf(const CPlaceable* object) const;
-  void Grow();
+  void SetSlots(std::size_t slots);
 
   std::vector<CPlaceable*> m_Objects;  // observer
   std::vector<Number> m_Slots;         // a power of two, at least half of them free

@@ -12,6 +12,8 @@ void AddPredecessor(PredecessorMap& predecessors, CPlaceable* reference, CPlacea
 }
 
 bool PageOrderCalculation::Run(int contentCount) {
+  m_Numbers.Reserve(static_cast<std::size_t>(contentCount));
+  m_Order.Reserve(static_cast<std::size_t>(contentCount));
   bool sortable = true;
   for (int i = 0; sortable && i < contentCount; ++i) sortable = WalkFrom(m_rPage.GetLayoutContentAt(i));
   return sortable;

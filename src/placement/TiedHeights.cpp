@@ -28,10 +28,12 @@ void TiedHeights::Join(Number element, Number reference) {
 void TiedHeights::GoOn(Number element, Number reference, bool adjustHeight) {
   EntryOf(m_Stops, reference);
   Stop& stop = EntryOf(m_Stops, element);
-  // The object has not been followed yet, so that it is a splay tree of its own.
   stop.goesTo = reference;
   stop.adjustHeight = adjustHeight;
-  stop.parent = reference;
+  if (!m_bUnevenPossible) return;
+  // The object has not been followed yet, so that it is a splay tree of its own.
+  EntryOf(m_Nodes, reference);
+  EntryOf(m_Nodes, element).parent = reference;
 }
 
 void TiedHeights::EndWithJoining(Number element, Number reference) {
@@ -39,7 +41,7 @@ void TiedHeights::EndWithJoining(Number element, Number reference) {
 }
 
 void TiedHeights::FollowAgain(Number start) {
-  if (!m_bUnevenPossible || start >= m_Stops.size()) return;
+  if (!m_bUnevenPossible || start >= m_Nodes.size()) return;
   Number stop = start;
   for (;;) {
     Expose(stop);
@@ -56,25 +58,35 @@ void TiedHeights::FollowAgain(Number start) {
 
 void TiedHeights::Enter(int group, Number object) {
   HeightGroupIndex::AddNewElement(*m_rGroups[static_cast<std::size_t>(group)], m_rNumbers.Object(object));
-  if (m_Stops[object].group != HeightGroupIndex::kNoGroup) m_bUnevenPossible = true;
-  Splay(object);
+  const bool comesFromAnother = m_Stops[object].group != HeightGroupIndex::kNoGroup;
+  if (comesFromAnother && !m_bUnevenPossible) BeginSearching();
   m_Stops[object].group = group;
+  if (!m_bUnevenPossible) return;
+  EntryOf(m_Nodes, object);
+  Splay(object);
   Update(object);
 }
 
+// Until now no road had to be searched: each object is a splay tree of its own.
+void TiedHeights::BeginSearching() {
+  m_bUnevenPossible = true;
+  m_Nodes.resize(m_Stops.size());
+  for (std::size_t i = 0; i < m_Stops.size(); ++i) m_Nodes[i].parent = m_Stops[i].goesTo;
+}
+
 TiedHeights::Number TiedHeights::EndOf(Number root) const {
-  const Number last = m_Stops[root].last;
+  const Number last = m_Nodes[root].last;
   return last == kNone ? root : last;
 }
 
 TiedHeights::Number TiedHeights::StartOf(Number root) const {
-  const Number first = m_Stops[root].first;
+  const Number first = m_Nodes[root].first;
   return first == kNone ? root : first;
 }
 
 bool TiedHeights::IsRoot(Number stop) const {
-  const Number parent = m_Stops[stop].parent;
-  return parent == kNone || (m_Stops[parent].left != stop && m_Stops[parent].right != stop);
+  const Number parent = m_Nodes[stop].parent;
+  return parent == kNone || (m_Nodes[parent].left != stop && m_Nodes[parent].right != stop);
 }
 
 bool TiedHeights::IsUneven(Number stop, Number reference) const {
@@ -85,9 +97,9 @@ bool TiedHeights::IsUneven(Number stop, Number reference) const {
 TiedHeights::Number TiedHeights::FirstUneven(Number root) const {
   Number stop = root;
   for (;;) {
-    const Stop& entry = m_Stops[stop];
+    const Node& entry = m_Nodes[stop];
     if (entry.right != kNone) {
-      const bool inside = m_Stops[entry.right].uneven;
+      const bool inside = m_Nodes[entry.right].uneven;
       const Number end = EndOf(entry.right);
       if (!inside && IsUneven(end, stop)) return end;
       if (inside) {
@@ -97,7 +109,7 @@ TiedHeights::Number TiedHeights::FirstUneven(Number root) const {
     }
     if (entry.left == kNone) return kNone;
     if (IsUneven(stop, StartOf(entry.left))) return stop;
-    if (!m_Stops[entry.left].uneven) return kNone;
+    if (!m_Nodes[entry.left].uneven) return kNone;
     stop = entry.left;
   }
 }
@@ -105,9 +117,9 @@ TiedHeights::Number TiedHeights::FirstUneven(Number root) const {
 // Makes the road from the stop to its end one splay tree, with the stop as its root.
 void TiedHeights::Expose(Number stop) {
   Number behind = kNone;
-  for (Number at = stop; at != kNone; at = m_Stops[at].parent) {
+  for (Number at = stop; at != kNone; at = m_Nodes[at].parent) {
     Splay(at);
-    m_Stops[at].right = behind;
+    m_Nodes[at].right = behind;
     Update(at);
     behind = at;
   }
@@ -116,10 +128,10 @@ void TiedHeights::Expose(Number stop) {
 
 void TiedHeights::Splay(Number stop) {
   while (!IsRoot(stop)) {
-    const Number parent = m_Stops[stop].parent;
+    const Number parent = m_Nodes[stop].parent;
     if (!IsRoot(parent)) {
-      const Number grandparent = m_Stops[parent].parent;
-      const bool sameSide = (m_Stops[grandparent].left == parent) == (m_Stops[parent].left == stop);
+      const Number grandparent = m_Nodes[parent].parent;
+      const bool sameSide = (m_Nodes[grandparent].left == parent) == (m_Nodes[parent].left == stop);
       Rotate(sameSide ? parent : stop);
     }
     Rotate(stop);
@@ -127,34 +139,34 @@ void TiedHeights::Splay(Number stop) {
 }
 
 void TiedHeights::Rotate(Number stop) {
-  const Number parent = m_Stops[stop].parent;
-  const Number grandparent = m_Stops[parent].parent;
+  const Number parent = m_Nodes[stop].parent;
+  const Number grandparent = m_Nodes[parent].parent;
   if (!IsRoot(parent)) {
-    (m_Stops[grandparent].left == parent ? m_Stops[grandparent].left : m_Stops[grandparent].right) = stop;
+    (m_Nodes[grandparent].left == parent ? m_Nodes[grandparent].left : m_Nodes[grandparent].right) = stop;
   }
-  const bool fromLeft = m_Stops[parent].left == stop;
-  Number& inner = fromLeft ? m_Stops[stop].right : m_Stops[stop].left;
-  (fromLeft ? m_Stops[parent].left : m_Stops[parent].right) = inner;
-  if (inner != kNone) m_Stops[inner].parent = parent;
+  const bool fromLeft = m_Nodes[parent].left == stop;
+  Number& inner = fromLeft ? m_Nodes[stop].right : m_Nodes[stop].left;
+  (fromLeft ? m_Nodes[parent].left : m_Nodes[parent].right) = inner;
+  if (inner != kNone) m_Nodes[inner].parent = parent;
   inner = parent;
-  m_Stops[parent].parent = stop;
-  m_Stops[stop].parent = grandparent;
+  m_Nodes[parent].parent = stop;
+  m_Nodes[stop].parent = grandparent;
   Update(parent);
   Update(stop);
 }
 
 void TiedHeights::Update(Number stop) {
-  Stop& entry = m_Stops[stop];
+  Node& entry = m_Nodes[stop];
   entry.last = stop;
   entry.first = stop;
   entry.uneven = false;
   if (entry.left != kNone) {
     entry.last = EndOf(entry.left);
-    entry.uneven = m_Stops[entry.left].uneven || IsUneven(stop, StartOf(entry.left));
+    entry.uneven = m_Nodes[entry.left].uneven || IsUneven(stop, StartOf(entry.left));
   }
   if (entry.right != kNone) {
     entry.first = StartOf(entry.right);
-    entry.uneven = entry.uneven || m_Stops[entry.right].uneven || IsUneven(EndOf(entry.right), stop);
+    entry.uneven = entry.uneven || m_Nodes[entry.right].uneven || IsUneven(EndOf(entry.right), stop);
   }
 }
 

@@ -27,6 +27,8 @@ class TiedHeights {
   TiedHeights(HeightGroupIndex::Groups& groups, HeightGroupIndex& index, const ObjectNumbers& numbers)
       : m_rGroups(groups), m_rIndex(index), m_rNumbers(numbers) {}
 
+  /// Makes room for so many objects.
+  void Reserve(std::size_t count) { m_Stops.reserve(count); }
   /// Joins two objects: adds to the first group that holds one of them the other one, else makes a new group.
   void Join(Number element, Number reference);
   /// The road goes on from an object, which has not been followed before, to its reference.
@@ -40,12 +42,16 @@ class TiedHeights {
  private:
   static constexpr Number kNone = ObjectNumbers::kNone;
 
+  /// What is known of an object.
   struct Stop {
     int group = HeightGroupIndex::kNoGroup;  // the first that holds the object
     Number goesTo = kNone;                   // the reference, if the road goes on to it
-    bool adjustHeight = false;               // whether it is joined with it
     Number joinedAtEnd = kNone;              // the reference, if the road ends with joining it
-    // The splay tree. The parent of a root is where the road of its entries goes on.
+    bool adjustHeight = false;  // whether it is joined with the reference that the road goes on to
+  };
+
+  /// Its entry in a splay tree. The parent of a root is where the road of its entries goes on.
+  struct Node {
     Number parent = kNone;
     Number left = kNone;   // towards the end of the road
     Number right = kNone;  // towards its start
@@ -56,6 +62,7 @@ class TiedHeights {
   };
 
   void Enter(int group, Number object);
+  void BeginSearching();
   Number EndOf(Number root) const;
   Number StartOf(Number root) const;
   bool IsRoot(Number stop) const;
@@ -70,6 +77,7 @@ class TiedHeights {
   HeightGroupIndex& m_rIndex;           // the zone's
   const ObjectNumbers& m_rNumbers;
   std::vector<Stop> m_Stops;
+  std::vector<Node> m_Nodes;  // empty until a tie may be uneven
   bool m_bUnevenPossible = false;
 };
 

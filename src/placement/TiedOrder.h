@@ -18,6 +18,8 @@ class TiedOrder {
   using Number = ObjectNumbers::Number;
   static constexpr Number kNone = ObjectNumbers::kNone;
 
+  /// Makes room for so many objects.
+  void Reserve(std::size_t count) { m_Entries.reserve(count); }
   bool IsListed(Number object) const { return object < m_Entries.size() && m_Entries[object].listed; }
 
   // Each puts an object that is not listed yet; `tiedTo` is the object that its relation names, kNone without one.

@@ -27,6 +27,10 @@ bool ZoneOrderCalculation::Run(bool endAtCircle) {
   const int rectangles = m_rZone.GetRectangleElementCount();
   const int lines = m_rZone.GetLineElementCount();
   const int cells = m_rZone.GetTableCellCount();
+  const auto count = static_cast<std::size_t>(texts + valueHolders + pictures + rectangles + lines + cells);
+  m_Numbers.Reserve(count);
+  m_Order.Reserve(count);
+  m_Heights.Reserve(count);
 
   bool sortable = true;
   for (int i = 0; sortable && i < texts; ++i) sortable = WalkFrom(m_rZone.GetTextElementAt(i));
