@@ -135,7 +135,7 @@ TEST(XMLHostile, NoExternalEntityIsLoaded) {
 
 // A token that spans many blocks must not be scanned from its beginning with each of them.
 TEST(XMLHostile, OneTokenAsLongAsTheFileIsReadInProportion) {
-  const std::string filler(20000000, 'x');
+  const std::string filler = Repeat("x", 20000000);
   const auto start = std::chrono::steady_clock::now();
   EXPECT_NE(LoadText("<R a='" + filler + "'/>")->GetRootNode(), nullptr);
   EXPECT_NE(LoadText("<R><!--" + filler + "--></R>")->GetRootNode(), nullptr);

@@ -24,7 +24,6 @@ using zeb::InputFile;
 using zeb::ReplacingFile;
 using zebtest::ReadFile;
 using zebtest::TempDir;
-using zebtest::WidePath;
 using zebtest::WriteFile;
 
 std::span<const std::byte> Bytes(std::string_view text) { return std::as_bytes(std::span(text)); }

@@ -71,7 +71,7 @@ FileStatus FollowLinks(std::string& path) {
     const ssize_t length = readlink(path.c_str(), target.data(), target.size());
     if (length < 0) return LastStatus();
     target.resize(static_cast<std::size_t>(length));
-    path = target.starts_with('/') ? target : FolderOf(path) + target;
+    path = target.starts_with('/') ? target : FolderOf(path).append(target);
   }
   return FileStatus::Failed;
 }
