@@ -42,15 +42,23 @@ class ZEB_EXPORT CIDMapping {
  private:
   class CMapLoader;
 
-  /// Keys from that of the map entry to `last`, with values that rise with the key.
-  struct Run {
-    int last;
-    int value;
-  };
-  using RunMap = std::map<int, Run>;
+  /// One direction: an ordered map from int to int that keeps runs of successive keys and values together.
+  class RunMap {
+   public:
+    /// Maps the keys from `first` to `last` to values from `value` upwards; keys that are there stay.
+    void Add(int first, int last, int value);
+    /// The value of a key, -1 if there is none.
+    int Find(int key) const;
 
-  static void AddRun(RunMap& runs, int first, int last, int value);
-  static int Find(const RunMap& runs, int key);
+   private:
+    struct Run {
+      int last;
+      int value;
+    };
+
+    std::map<int, Run> m_Runs;     // first key to last key and first value; runs do not overlap
+    std::map<int, int> m_Covered;  // first key to last key of what is mapped, in as few pieces as needed
+  };
 
   std::string m_strCMapName;
   std::string m_strRegistry;
