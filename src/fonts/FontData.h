@@ -113,5 +113,7 @@ class ZEB_EXPORT CFontData {
   void Grow(long long chunks);
   void MakeRoomAtCursor(int count);
   unsigned int BigEndianAt(long long pos, int count) const;
+  void WriteBigEndianAtPos(int pos, unsigned int value, int count);
+  void CopyOut(int pos, int count, unsigned char* target) const;
   void MoveCursor(long long pos);
 };
