@@ -275,61 +275,61 @@ class ZEB_EXPORT CFontMetrics {
     SlotCount = 9,
   };
 
-  int m_iFileHandle;              // open while a reader works, else -1
-  unsigned short m_usUnitsPerEm;  // 0: not known
+  int m_iFileHandle = -1;             // open while a reader works, else -1
+  unsigned short m_usUnitsPerEm = 0;  // 0: not known
   std::wstring m_strBaseFont;
-  std::wstring m_strEncoding;
-  int m_iFlags;
-  FontType m_FontType;
+  std::wstring m_strEncoding = L"winansi1252";
+  int m_iFlags = 0;
+  FontType m_FontType = FontTypeTrueType;
   std::wstring m_strEncodingScheme;
-  float m_fItalicAngle;
-  bool m_bFixedPitch;
-  float m_fBBoxLLX;
-  float m_fBBoxLLY;
-  float m_fBBoxURX;
-  float m_fBBoxURY;
-  int m_iUnderlinePosition;
-  int m_iUnderlineThickness;
-  int m_iCapHeight;
-  int m_iXHeight;
-  int m_iAscender;
-  int m_iDescender;
-  int m_iStemVW;
-  int m_iStemHW;
+  float m_fItalicAngle = 0;
+  bool m_bFixedPitch = false;
+  float m_fBBoxLLX = 0;
+  float m_fBBoxLLY = 0;
+  float m_fBBoxURX = 0;
+  float m_fBBoxURY = 0;
+  int m_iUnderlinePosition = 0;
+  int m_iUnderlineThickness = 0;
+  int m_iCapHeight = 0;
+  int m_iXHeight = 0;
+  int m_iAscender = 0;
+  int m_iDescender = 0;
+  int m_iStemVW = 0;
+  int m_iStemHW = 0;
   std::vector<CFontCharMetricsInfo*> m_rgpCharMetrics;    // observers
   std::vector<CFontTrackKerningData*> m_rgpTrackKerning;  // observers
   std::vector<CFontPairKerningData*> m_rgpPairKerning;    // observers
   std::vector<CFontCompCharData*> m_rgpCompChars;         // observers
-  int m_iFirstChar;
-  int m_iLastChar;
-  unsigned short m_rgusWidths[65536];
-  CFontData* m_pFontData;  // owned if m_bFontDataOwner, shared by copies
-  bool m_bBase14Font;
-  bool m_bCJKFont;
+  int m_iFirstChar = 0;
+  int m_iLastChar = 256;
+  unsigned short m_rgusWidths[65536] = {};
+  CFontData* m_pFontData = nullptr;  // owned if m_bFontDataOwner, shared by copies
+  bool m_bBase14Font = false;
+  bool m_bCJKFont = false;
   std::wstring m_strTTName;
-  unsigned short m_rgusUnicodes[256];
+  unsigned short m_rgusUnicodes[256] = {};
   std::wstring m_rgstrCharNames[256];
-  bool m_bUnicodeFont;
-  CharColl m_CharColl;
-  CFontData* m_pSubsetData;  // owned, shared by copies
+  bool m_bUnicodeFont = false;
+  CharColl m_CharColl = static_cast<CharColl>(-1);
+  CFontData* m_pSubsetData = nullptr;  // owned, shared by copies
   std::map<unsigned short, unsigned short> m_CodeToGlyph;
-  std::map<unsigned short, unsigned short> m_GlyphToNewIndex;
-  std::map<unsigned short, unsigned short> m_NewIndexToGlyph;
-  unsigned short m_usNextNewIndex;
-  int m_rgiDirectorySlots[SlotCount];  // positions behind the tag, in the subset
-  int m_iCheckSumAdjustmentPos;
-  int m_iLocaPos;
-  FontEmbedding m_FontEmbedding;
+  std::map<unsigned short, unsigned short> m_GlyphToNewIndex = {{0, 0}, {1, 1}, {2, 2}};
+  std::map<unsigned short, unsigned short> m_NewIndexToGlyph = {{0, 0}, {1, 1}, {2, 2}};
+  unsigned short m_usNextNewIndex = 3;
+  int m_rgiDirectorySlots[SlotCount] = {};  // positions behind the tag, in the subset
+  int m_iCheckSumAdjustmentPos = 0;
+  int m_iLocaPos = 0;
+  FontEmbedding m_FontEmbedding = EmbedSingleByte;
   std::wstring m_strFontBoldName;
   std::wstring m_strFontItalicName;
   std::wstring m_strFontBoldItalicName;
-  bool m_bFontDataOwner;
-  int m_iBold;
-  bool m_bItalic;
+  bool m_bFontDataOwner = true;
+  int m_iBold = 400;
+  bool m_bItalic = false;
   std::wstring m_strFontFamilyName;
   std::vector<std::wstring> m_rgstrLocalizedNames;
-  bool m_bSymbolFont;
+  bool m_bSymbolFont = false;
   std::map<unsigned int, unsigned short> m_CompositePatches;  // position in the source to the old value
-  bool m_bBoldFont;
-  bool m_bItalicFont;
+  bool m_bBoldFont = true;
+  bool m_bItalicFont = true;
 };

@@ -1,0 +1,69 @@
+#include "fonts/FontMetrics.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+/// First code of the page in which the characters of a Windows symbol font lie.
+constexpr int kSymbolPage = 0xF000;
+
+int ToInt(float value) {
+  // Only values that no font has reach the limits.
+  if (!(value < 2147483648.0F)) return std::numeric_limits<int>::max();
+  if (value < -2147483648.0F) return std::numeric_limits<int>::min();
+  return static_cast<int>(value);
+}
+
+}  // namespace
+
+unsigned short CFontMetrics::GetWidthAt(int index) const {
+  // Fixed behaviour: only reading moves to the symbol page, so a symbol font with single-byte widths reads 0.
+  // A sum beyond 16 bits wraps, as that of a code does.
+  return m_rgusWidths[m_bSymbolFont && index < kSymbolPage ? (index + kSymbolPage) & 0xFFFF : index];
+}
+
+void CFontMetrics::SetWidthAt(int index, unsigned short width) { m_rgusWidths[index] = width; }
+
+float CFontMetrics::GetEffectiveFontHeight(float size) const {
+  return (m_fBBoxURY - m_fBBoxLLY) / 1000 * size;
+}
+
+int CFontMetrics::ConvertTTToPDF(int value) const {
+  if (m_usUnitsPerEm == 0) return -1;
+  const float scaled = static_cast<float>(value) * 1000.0F / static_cast<float>(m_usUnitsPerEm);
+  return ToInt(scaled < 0 ? std::ceil(scaled - 0.5F) : std::floor(scaled + 0.5F));
+}
+
+void CFontMetrics::AddUnicodeToGlyphIndex(unsigned short code, unsigned short glyph) {
+  m_CodeToGlyph.emplace(code, glyph);
+}
+
+bool CFontMetrics::FindGlyphIndex(unsigned short code, unsigned short& glyph) const {
+  const int wanted = m_bSymbolFont && code < kSymbolPage ? code + kSymbolPage : code;
+  const auto found = m_CodeToGlyph.find(static_cast<unsigned short>(wanted));
+  if (found == m_CodeToGlyph.end()) return false;
+  glyph = found->second;
+  return true;
+}
+
+bool CFontMetrics::FindUsedGlyphIndex(unsigned short glyph, unsigned short& newIndex) const {
+  const auto found = m_GlyphToNewIndex.find(glyph);
+  if (found == m_GlyphToNewIndex.end()) return false;
+  newIndex = found->second;
+  return true;
+}
+
+unsigned short CFontMetrics::MapChar(unsigned short code) {
+  if (m_FontEmbedding != EmbedSubset) return code;
+  unsigned short glyph = 0;
+  unsigned short newIndex = 0;
+  FindGlyphIndex(code, glyph);
+  if (FindUsedGlyphIndex(glyph, newIndex)) return newIndex;
+  newIndex = m_usNextNewIndex++;
+  m_GlyphToNewIndex.emplace(glyph, newIndex);
+  m_NewIndexToGlyph.emplace(newIndex, glyph);
+  return newIndex;
+}
+
+unsigned short CFontMetrics::GetUsedGlyphsCount() const { return m_usNextNewIndex; }

@@ -1,0 +1,9 @@
+#include "fonts/PostscriptFontMetrics.h"
+
+CPostscriptFontMetrics::CPostscriptFontMetrics() : m_rgwcToken{}, m_rgwcLine{} {}
+
+CPostscriptFontMetrics::CPostscriptFontMetrics(const CPostscriptFontMetrics& other) = default;
+
+CPostscriptFontMetrics::~CPostscriptFontMetrics() = default;
+
+CPostscriptFontMetrics& CPostscriptFontMetrics::operator=(const CPostscriptFontMetrics& other) = default;
