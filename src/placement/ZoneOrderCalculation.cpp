@@ -27,7 +27,9 @@ bool ZoneOrderCalculation::Run(bool endAtCircle) {
   const int rectangles = m_rZone.GetRectangleElementCount();
   const int lines = m_rZone.GetLineElementCount();
   const int cells = m_rZone.GetTableCellCount();
-  const auto count = static_cast<std::size_t>(texts + valueHolders + pictures + rectangles + lines + cells);
+  std::size_t count = 0;
+  for (const int part : {texts, valueHolders, pictures, rectangles, lines, cells})
+    count += static_cast<std::size_t>(part);
   m_Numbers.Reserve(count);
   m_Order.Reserve(count);
   m_Heights.Reserve(count);

@@ -129,6 +129,7 @@ void RandomZone::Place(CPlaceable* object) {
 
 std::vector<CPlaceable*> RandomZone::Elements() {
   std::vector<CPlaceable*> elements;
+  elements.reserve(m_All.size());
   for (int i = 0; i < m_Zone.GetTextElementCount(); ++i) elements.push_back(m_Zone.GetTextElementAt(i));
   for (int i = 0; i < m_Zone.GetValueHolderCount(); ++i) elements.push_back(m_Zone.GetValueHolderAt(i));
   for (int i = 0; i < m_Zone.GetPictureElementCount(); ++i) elements.push_back(m_Zone.GetPictureElementAt(i));
@@ -177,6 +178,7 @@ RandomPage::RandomPage(std::mt19937& random, const ModelShape& shape) : RandomOb
 
 std::vector<CPlaceable*> RandomPage::Elements() {
   std::vector<CPlaceable*> elements;
+  elements.reserve(static_cast<std::size_t>(m_Page.GetLayoutContentCount()));
   for (int i = 0; i < m_Page.GetLayoutContentCount(); ++i) elements.push_back(m_Page.GetLayoutContentAt(i));
   return elements;
 }

@@ -13,6 +13,7 @@ namespace {
 template <class Owner>
 std::vector<CPlaceable*> OrderOf(Owner& owner) {
   std::vector<CPlaceable*> order;
+  order.reserve(static_cast<std::size_t>(owner.GetOrderedElementCount()));
   for (int i = 0; i < owner.GetOrderedElementCount(); ++i) order.push_back(owner.GetOrderedElementAt(i));
   return order;
 }
@@ -144,6 +145,7 @@ void ExpectSamePage(RandomPage& model, const NaivePageOrder& naive) {
     ASSERT_EQ(predecessors != nullptr, expected != naive.predecessors.end());
     if (predecessors == nullptr) continue;
     std::vector<CPlaceable*> actual;
+    actual.reserve(static_cast<std::size_t>(predecessors->GetPredecessorCount()));
     for (int i = 0; i < predecessors->GetPredecessorCount(); ++i) {
       actual.push_back(predecessors->GetPredecessorAt(i));
     }
