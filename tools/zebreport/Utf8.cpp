@@ -4,13 +4,12 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <type_traits>
 
 namespace zebreport {
 
 namespace {
 
-using Unit = std::make_unsigned_t<wchar_t>;
+using Traits = std::char_traits<wchar_t>;
 
 constexpr std::uint32_t kReplacement = 0xFFFD;
 
@@ -42,8 +41,8 @@ std::string ToUtf8(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
-    std::uint32_t character = static_cast<Unit>(text[i]);
-    const std::uint32_t next = i + 1 < text.size() ? static_cast<Unit>(text[i + 1]) : 0;
+    std::uint32_t character = Traits::to_int_type(text[i]);
+    const std::uint32_t next = i + 1 < text.size() ? Traits::to_int_type(text[i + 1]) : 0;
     if (IsLeading(character) && IsTrailing(next)) {
       character = 0x10000 + ((character - 0xD800) << 10) + (next - 0xDC00);
       ++i;
