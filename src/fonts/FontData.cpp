@@ -1,5 +1,6 @@
 #include "fonts/FontData.h"
 
+#include "foundation/ErrorKeys.h"
 #include "foundation/KXExceptionHandler.h"
 #include "platform/FileHandle.h"
 
@@ -16,7 +17,7 @@ namespace {
 constexpr int kDefaultChunk = 65535;
 
 [[noreturn]] void ThrowNoMoreMemory() {
-  CKXExceptionHandler::GetInstance().ThrowException(L"NoMoreMemoryLeft");
+  CKXExceptionHandler::GetInstance().ThrowException(zeb::ErrorKeys::NoMoreMemoryLeft);
   throw std::bad_alloc();
 }
 

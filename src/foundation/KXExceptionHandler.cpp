@@ -2,9 +2,7 @@
 
 #include "foundation/KXException.h"
 #include "foundation/RecordReader.h"
-#include "foundation/XMLDocument.h"
-#include "foundation/XMLDocumentPtr.h"
-#include "foundation/XMLManager.h"
+#include "foundation/XMLFile.h"
 #include "foundation/XMLNode.h"
 
 #include <array>
@@ -69,9 +67,7 @@ const wchar_t* CKXExceptionHandler::GetExceptionNamePath() const { return m_strE
 void CKXExceptionHandler::ReadExceptions(const wchar_t* fileName) {
   m_strFileName = fileName;
   try {
-    const zeb::XMLDocumentPtr document(
-        zebxmln::CXMLManager::GetInstance().LoadDocument(fileName, true, false, nullptr, false, false));
-    ReadFamilies(document->GetRootNode());
+    ReadFamilies(zeb::XMLFile::Load(fileName).Root());
     m_bRead = true;
   } catch (const zebxmln::CXMLException&) {
     // Fixed behaviour: a catalogue that cannot be read is no failure of its own; every key then ends in the fallback.

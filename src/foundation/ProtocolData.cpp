@@ -1,12 +1,9 @@
 #include "foundation/ProtocolData.h"
 
-#include "foundation/KXException.h"
 #include "foundation/LogEntry.h"
 #include "foundation/RecordWriter.h"
 #include "foundation/ValueConversion.h"
-#include "foundation/XMLDocument.h"
-#include "foundation/XMLDocumentPtr.h"
-#include "foundation/XMLManager.h"
+#include "foundation/XMLFile.h"
 #include "foundation/XMLNode.h"
 
 #include <array>
@@ -61,16 +58,16 @@ const wchar_t* CProtocolData::GetErrorMessage() const { return m_strErrorMessage
 
 void CProtocolData::SaveProtocolData(const wchar_t* fileName) {
   try {
-    const zeb::XMLDocumentPtr document(zebxmln::CXMLManager::GetInstance().CreateDocument(kName, nullptr));
-    zeb::RecordWriter record(document->CreateRootNode(kName));
+    zeb::XMLFile file = zeb::XMLFile::Create(kName, kName);
+    zeb::RecordWriter record(file.Root());
     record.Write(L"VersionNr", m_iVersionNr);
     record.Write(L"ErrorNr", m_iErrorNr);
     record.Write(L"ErrorMessage", m_strErrorMessage);
     for (const CLogEntry* entry : m_rgpLogEntries) {
       if (entry != nullptr) WriteLogEntry(record, *entry);
     }
-    document->SaveDocumentToFile(fileName, true);
+    file.Save(fileName);
   } catch (const zebxmln::CXMLException& exception) {
-    throw CKXXMLException(exception.GetErrorCode(), exception.GetErrorMessage());
+    zeb::ThrowAsKXException(exception);
   }
 }

@@ -1,12 +1,11 @@
 #include "model/ReportRootElement.h"
 
+#include "foundation/ErrorKeys.h"
 #include "foundation/IDManager.h"
-#include "foundation/KXException.h"
 #include "foundation/KXExceptionHandler.h"
 #include "foundation/RecordWriter.h"
 #include "foundation/ValueConversion.h"
-#include "foundation/XMLDocumentPtr.h"
-#include "foundation/XMLManager.h"
+#include "foundation/XMLFile.h"
 #include "model/Placeable.h"
 #include "model/ReportDocument.h"
 #include "model/ReportLayout.h"
@@ -15,7 +14,6 @@
 #include "model/ValueHolderList.h"
 #include "platform/File.h"
 
-#include <memory>
 #include <optional>
 #include <utility>
 
@@ -25,19 +23,6 @@ constexpr zeb::ElementName kVersionNr = L"VersionNr";
 constexpr zeb::ElementName kReportType = L"ReportType";
 constexpr zeb::ElementName kReportDocument = L"ReportDocument";
 constexpr zeb::ElementName kReportLayoutID = L"ReportLayoutID";
-
-zeb::XMLDocumentPtr LoadDocument(const wchar_t* path) {
-  return zeb::XMLDocumentPtr(
-      zebxmln::CXMLManager::GetInstance().LoadDocument(path, true, false, nullptr, false, false));
-}
-
-zeb::XMLDocumentPtr CreateDocument(const wchar_t* name) {
-  return zeb::XMLDocumentPtr(zebxmln::CXMLManager::GetInstance().CreateDocument(name, nullptr));
-}
-
-[[noreturn]] void ThrowAsKX(const zebxmln::CXMLException& exception) {
-  throw CKXXMLException(exception.GetErrorCode(), exception.GetErrorMessage());
-}
 
 /// The folder with a backslash at its end; an empty one stays empty.
 std::wstring WithBackslash(const wchar_t* path) {
@@ -74,7 +59,7 @@ void CReportRootElement::LoadReport(const wchar_t* reportFile, const wchar_t* la
     if (m_pReportDocument != nullptr) m_pReportDocument->SetCurrentVersionNr();
     if (m_pReportLayout != nullptr) m_pReportLayout->SetCurrentVersionNr();
   } catch (const zebxmln::CXMLException& exception) {
-    ThrowAsKX(exception);
+    zeb::ThrowAsKXException(exception);
   }
 }
 
@@ -84,11 +69,11 @@ void CReportRootElement::ReadFiles(const wchar_t* reportFile, const wchar_t* lay
   CIDManager layoutIDs;
   const zeb::UnownedObjects unownedOfReport(reportIDs);
   const zeb::UnownedObjects unownedOfLayout(layoutIDs);
-  zeb::XMLDocumentPtr reportDocument;
+  std::optional<zeb::XMLFile> report;
   std::optional<zeb::RecordReader> records;
   if (reportFile != nullptr) {
-    reportDocument = LoadDocument(reportFile);
-    records.emplace(reportDocument->GetRootNode());
+    report.emplace(zeb::XMLFile::Load(reportFile));
+    records.emplace(report->Root());
     records->Read(kVersionNr, m_iVersionNr);
     records->Read(kReportType, m_strReportType);
     if (zebxmln::CXMLNode* node = records->Take(kReportDocument)) {
@@ -101,12 +86,12 @@ void CReportRootElement::ReadFiles(const wchar_t* reportFile, const wchar_t* lay
 }
 
 void CReportRootElement::ReadLayoutFile(const wchar_t* layoutFile, CIDManager& ids) {
-  const zeb::XMLDocumentPtr document = LoadDocument(layoutFile);
-  zeb::RecordReader reader(document->GetRootNode());
+  const zeb::XMLFile file = zeb::XMLFile::Load(layoutFile);
+  zeb::RecordReader reader(file.Root());
   reader.StepOver(kVersionNr);
   if (!reader.Is(kReportLayoutID)) return;
   zeb::LayoutInReading layout;
-  layout->Load(document->GetRootNode(), ids);
+  layout->Load(file.Root(), ids);
   SetReportLayout(layout.Release());
 }
 
@@ -131,23 +116,22 @@ void CReportRootElement::SaveReport(const wchar_t* reportFile, const wchar_t* la
   } catch (const zebxmln::CXMLException& exception) {
     // Fixed behaviour: the report file is asked, also where only the layout was being saved.
     if (reportFile != nullptr && zeb::IsReadOnlyFile(reportFile)) {
-      CKXExceptionHandler::GetInstance().ThrowException(L"FileReadOnly");
+      CKXExceptionHandler::GetInstance().ThrowException(zeb::ErrorKeys::FileReadOnly);
     }
-    ThrowAsKX(exception);
+    zeb::ThrowAsKXException(exception);
   }
 }
 
 void CReportRootElement::WriteLayoutFile(const wchar_t* layoutFile) {
-  const zeb::XMLDocumentPtr document = CreateDocument(L"ReportLayout");
-  zebxmln::CXMLNode* root = document->CreateRootNode(L"ReportLayout");
+  zeb::XMLFile file = zeb::XMLFile::Create(L"ReportLayout", L"ReportLayout");
   CIDManager ids;
-  if (m_pReportLayout != nullptr) m_pReportLayout->Save(root, ids);
-  document->SaveDocumentToFile(layoutFile, true);
+  if (m_pReportLayout != nullptr) m_pReportLayout->Save(file.Root(), ids);
+  file.Save(layoutFile);
 }
 
 void CReportRootElement::WriteReportFile(const wchar_t* reportFile) {
-  const zeb::XMLDocumentPtr document = CreateDocument(L"ReportRootElement");
-  zeb::RecordWriter writer(document->CreateRootNode(L"ReportRootElement"));
+  zeb::XMLFile file = zeb::XMLFile::Create(L"ReportRootElement", L"ReportRootElement");
+  zeb::RecordWriter writer(file.Root());
   CIDManager ids;
   if (m_pReportDocument != nullptr && m_pReportLayout != nullptr) {
     m_pReportDocument->SetReportLayoutName(m_strLayoutFile.c_str());
@@ -159,7 +143,7 @@ void CReportRootElement::WriteReportFile(const wchar_t* reportFile) {
     m_pReportDocument->Save(writer.Node(), ids);
     zeb::WriteReportRecords(writer.Node(), *m_pReportDocument, ids);
   }
-  document->SaveDocumentToFile(reportFile, true);
+  file.Save(reportFile);
 }
 
 void CReportRootElement::SaveReportDocument(const wchar_t* reportFile) { SaveReport(reportFile, nullptr); }
@@ -169,13 +153,13 @@ void CReportRootElement::SaveReportLayout(const wchar_t* layoutFile) { SaveRepor
 void CReportRootElement::SaveValueHolders(const wchar_t* file) {
   const CSetLocaleSwitch localeSwitch;
   try {
-    const zeb::XMLDocumentPtr document = CreateDocument(L"ReportData");
-    zeb::RecordWriter writer(document->CreateRootNode(L"ValueHolderData"));
+    zeb::XMLFile output = zeb::XMLFile::Create(L"ReportData", L"ValueHolderData");
+    zeb::RecordWriter writer(output.Root());
     writer.Write(kVersionNr, m_iValueHolderVersionNr);
     if (m_pReportDocument != nullptr) zeb::WriteValueHolderList(writer.Node(), *m_pReportDocument);
-    document->SaveDocumentToFile(file, true);
+    output.Save(file);
   } catch (const zebxmln::CXMLException& exception) {
-    ThrowAsKX(exception);
+    zeb::ThrowAsKXException(exception);
   }
 }
 
