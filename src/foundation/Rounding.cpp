@@ -40,10 +40,19 @@ double RoundDown(double value, double scale) {
   return lower > value ? lower - value * 1e-15 : lower;
 }
 
+// 10 to the power of `places`: from 0 to 22 these are exact, and the same as those of the standard library.
+double Scale(double places) {
+  constexpr std::array<double, 23> kExact = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  if (places >= 0.0 && places <= 22.0) return kExact[static_cast<std::size_t>(places)];
+  return std::pow(10.0, places);
+}
+
 double RoundPositive(double value, int digits, int mode, bool decimalPlaces) {
   if (std::isinf(value)) return value;
   const double places = decimalPlaces ? digits : digits - std::ceil(std::log10(value));
-  const double scale = std::pow(10.0, places);
+  const double scale = Scale(places);
   if (value > 1e16 / scale) return value;
   const double lower = RoundDown(value, scale);
   const double upper = RoundUp(value, scale);
