@@ -23,12 +23,15 @@ double BiOperation::Eval(int& pos, CFormulaParser* parser) {
 
 namespace {
 
-std::size_t Index(int pos) { return static_cast<std::size_t>(pos); }
+int FindOfLevel(zeb::OperatorLevel level, int pos, const CFormulaParser& parser) {
+  return zeb::FindOperatorOfLevel(level, zeb::FormulaAccess::Text(parser), static_cast<std::size_t>(pos),
+                                  parser.GetFunktionen());
+}
 
 }  // namespace
 
 int VergleichOperation::FindOperation(int& pos, CFormulaParser* parser) {
-  return zeb::FindComparison(zeb::FormulaAccess::Text(*parser), Index(pos));
+  return FindOfLevel(zeb::OperatorLevel::Comparison, pos, *parser);
 }
 
 double VergleichOperation::BerechneOp(CFormulaParser* /*parser*/, std::wstring op, double a, double b) {
@@ -36,7 +39,7 @@ double VergleichOperation::BerechneOp(CFormulaParser* /*parser*/, std::wstring o
 }
 
 int UndOderOperation::FindOperation(int& pos, CFormulaParser* parser) {
-  return zeb::FindLogic(zeb::FormulaAccess::Text(*parser), Index(pos));
+  return FindOfLevel(zeb::OperatorLevel::Logic, pos, *parser);
 }
 
 double UndOderOperation::BerechneOp(CFormulaParser* /*parser*/, std::wstring op, double a, double b) {
@@ -44,7 +47,7 @@ double UndOderOperation::BerechneOp(CFormulaParser* /*parser*/, std::wstring op,
 }
 
 int PlusMinusOperation::FindOperation(int& pos, CFormulaParser* parser) {
-  return zeb::FindSum(zeb::FormulaAccess::Text(*parser), Index(pos));
+  return FindOfLevel(zeb::OperatorLevel::Sum, pos, *parser);
 }
 
 double PlusMinusOperation::BerechneOp(CFormulaParser* parser, std::wstring op, double a, double b) {
@@ -52,7 +55,7 @@ double PlusMinusOperation::BerechneOp(CFormulaParser* parser, std::wstring op, d
 }
 
 int MalDurchOperation::FindOperation(int& pos, CFormulaParser* parser) {
-  return zeb::FindProduct(zeb::FormulaAccess::Text(*parser), Index(pos), parser->GetFunktionen());
+  return FindOfLevel(zeb::OperatorLevel::Product, pos, *parser);
 }
 
 double MalDurchOperation::BerechneOp(CFormulaParser* parser, std::wstring op, double a, double b) {
@@ -60,7 +63,7 @@ double MalDurchOperation::BerechneOp(CFormulaParser* parser, std::wstring op, do
 }
 
 int PotenzOperation::FindOperation(int& pos, CFormulaParser* parser) {
-  return zeb::FindPower(zeb::FormulaAccess::Text(*parser), Index(pos));
+  return FindOfLevel(zeb::OperatorLevel::Power, pos, *parser);
 }
 
 double PotenzOperation::BerechneOp(CFormulaParser* parser, std::wstring op, double a, double b) {

@@ -13,8 +13,8 @@ namespace zeb {
 struct FormulaAccess {
   static std::wstring_view Text(const CFormulaParser& parser) { return parser.m_Ausdruck; }
   static int& Position(CFormulaParser& parser) { return parser.m_Pos; }
+  static const bool& Computing(const CFormulaParser& parser) { return parser.m_Berechnen; }
   static int& Nesting(CFormulaParser& parser) { return parser.m_Schachtelung; }
-  static const OperationList& Chain(const CFormulaParser& parser) { return parser.m_Operationen; }
 
   static bool IsScanning(const CVariableFormulaParser& parser) { return parser.m_ScanVariable; }
   static void AddScanned(CVariableFormulaParser& parser, std::wstring_view name) {

@@ -63,6 +63,9 @@ inline bool IsBlank(wchar_t c) {
   return code <= 255 && std::isspace(code) != 0;
 }
 
+/// Whether the walk over blanks and comments can have something to do at a character.
+inline bool MayBeSkipped(wchar_t c) { return !IsAscii(c) || (AsciiClass(c) & (kBlank | kCommentMark)) != 0; }
+
 /// Whether a text is a word of the language, which is written in small ASCII letters and digits; case is ignored.
 constexpr bool IsWord(std::wstring_view text, std::string_view word) {
   if (text.size() != word.size()) return false;

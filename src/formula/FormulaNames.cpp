@@ -19,8 +19,8 @@ std::size_t FindFunctionName(std::wstring_view text, std::size_t pos) {
   return end - pos;
 }
 
-std::size_t FindVariableName(std::wstring_view text, std::size_t pos) {
-  std::size_t end = pos;
+std::size_t FindVariableName(std::wstring_view text, std::size_t pos, std::size_t known) {
+  std::size_t end = pos + known;
   while (end < text.size()) {
     const wchar_t c = text[end];
     const bool belongs = end == pos ? IsLetter(c) : IsLetterOrDigit(c);

@@ -11,7 +11,8 @@ namespace zeb {
 std::size_t FindFunctionName(std::wstring_view text, std::size_t pos);
 
 /// Length of the bare variable name at `pos`: letters, digits, `#` and `_`, the first no digit. 0 for none.
-std::size_t FindVariableName(std::wstring_view text, std::size_t pos);
+/// @param known length of a function name at `pos`, all of which belongs to the variable's name too
+std::size_t FindVariableName(std::wstring_view text, std::size_t pos, std::size_t known = 0);
 
 /// Length of the variable name at `pos`, bare or in brackets; the brackets count.
 /// Key: "VariableEndMissing" for a bracket that is not closed.

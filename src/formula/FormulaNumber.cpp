@@ -85,11 +85,13 @@ double ScanInLocale(const Literal& literal, const std::wstring& decimalPoint) {
   return value;
 }
 
+bool IsUsualPoint(const std::wstring& decimalPoint) { return decimalPoint == L"." || decimalPoint == L","; }
+
 double Value(const Literal& literal) {
   const std::size_t digits = literal.whole.size() + literal.decimals.size();
   if (literal.hasMark) {
     const std::wstring& decimalPoint = CFormulaParser::GetWinsysDez();
-    if (decimalPoint.size() != 1 || !IsMark(decimalPoint.front())) return ScanInLocale(literal, decimalPoint);
+    if (!IsUsualPoint(decimalPoint)) return ScanInLocale(literal, decimalPoint);
   }
   if (digits > kExactDigits) return NearestDouble(literal);
   // One division of two exact numbers gives the nearest double, as the standard library's scan does.
@@ -116,6 +118,32 @@ double ReadNumber(std::wstring_view number) {
   const double value = negative ? -magnitude : magnitude;
   if (CheckDouble(value) != 0) ThrowFormulaError(ErrorKeys::NumberTooLong);
   return RoundTo14Decimals(value);
+}
+
+bool DecimalMark::IsPlain() {
+  if (m_state == State::Unknown)
+    m_state = IsUsualPoint(CFormulaParser::GetWinsysDez()) ? State::Plain : State::Other;
+  return m_state == State::Plain;
+}
+
+double ReadNumberAt(std::wstring_view text, std::size_t pos, DecimalMark& mark, std::size_t& length) {
+  // A usual number is short enough to be read exactly and to be divided in one step.
+  const std::size_t limit = std::min(text.size(), pos + kExactDigits);
+  std::size_t end = pos + DigitRun(text.substr(0, limit), pos);
+  std::uint64_t number = AppendDigits(0, text.substr(pos, end - pos));
+  const bool hasMark = end < limit && IsMark(text[end]) && mark.IsPlain();
+  std::size_t decimals = 0;
+  if (hasMark) {
+    decimals = DigitRun(text.substr(0, limit), end + 1);
+    number = AppendDigits(number, text.substr(end + 1, decimals));
+    end += 1 + decimals;
+  }
+  if (end == text.size() || !(IsNumberDigit(text[end]) || (!hasMark && IsMark(text[end])))) {
+    length = end - pos;
+    return RoundTo14Decimals(static_cast<double>(number) / kPowersOfTen[decimals]);
+  }
+  length = FindNumber(text, pos);
+  return ReadNumber(text.substr(pos, length));
 }
 
 }  // namespace zeb

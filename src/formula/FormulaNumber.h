@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 // Numbers in a formula's text.
@@ -13,5 +14,18 @@ std::size_t FindNumber(std::wstring_view text, std::size_t pos);
 /// The value of a text that FindNumber has measured, rounded to 14 decimals.
 /// Keys: "DoubleExpected" if it holds no digit, "NumberTooLong" beyond the range of a double.
 double ReadNumber(std::wstring_view number);
+
+/// Whether the locale's decimal point lets numbers with decimals be read as they stand. Asks the locale at most once.
+class DecimalMark {
+ public:
+  bool IsPlain();
+
+ private:
+  enum class State : std::uint8_t { Unknown, Plain, Other };
+  State m_state = State::Unknown;
+};
+
+/// ReadNumber for the number at `pos`, which begins with a digit; its length comes with it.
+double ReadNumberAt(std::wstring_view text, std::size_t pos, DecimalMark& mark, std::size_t& length);
 
 }  // namespace zeb

@@ -7,7 +7,6 @@
 #include "foundation/ErrorKeys.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -22,33 +21,6 @@ wchar_t At(std::wstring_view text, std::size_t pos) { return pos < text.size() ?
 bool WordAt(std::wstring_view text, std::size_t pos, std::string_view word) {
   return pos < text.size() && text.size() - pos >= word.size() && IsWord(text.substr(pos, word.size()), word);
 }
-
-struct Spelling {
-  std::string_view text;
-  BinaryOperator op;
-};
-
-constexpr std::array<Spelling, 19> kSpellings = {{
-    {"<", BinaryOperator::Less},
-    {"<=", BinaryOperator::LessOrEqual},
-    {">", BinaryOperator::Greater},
-    {">=", BinaryOperator::GreaterOrEqual},
-    {"==", BinaryOperator::Equal},
-    {"<>", BinaryOperator::Unequal},
-    {"&&", BinaryOperator::And},
-    {"||", BinaryOperator::Or},
-    {"+", BinaryOperator::Plus},
-    {"-", BinaryOperator::Minus},
-    {"*", BinaryOperator::Times},
-    {"/", BinaryOperator::DividedBy},
-    {":", BinaryOperator::DividedBy},
-    {"mod", BinaryOperator::Modulo},
-    {"div", BinaryOperator::WholeDivision},
-    {"^", BinaryOperator::Power},
-    {"**", BinaryOperator::Power},
-    {"~", BinaryOperator::Root},
-    {"//", BinaryOperator::Root},
-}};
 
 /// The difference whose sign is the result of a comparison: 0.0 for values that are equal at 14 digits.
 double ComparableDifference(double a, double b) {
@@ -90,43 +62,64 @@ void RefuseZeroDivisor(double b) {
 
 }  // namespace
 
-int FindComparison(std::wstring_view text, std::size_t pos) {
+FoundOperator FindOperator(std::wstring_view text, std::size_t pos, int functions) {
   const wchar_t c = At(text, pos);
   const wchar_t next = At(text, pos + 1);
-  if (c == L'<') return next == L'=' || next == L'>' ? 2 : 1;
-  if (c == L'>') return next == L'=' ? 2 : 1;
-  return c == L'=' && next == L'=' ? 2 : 0;
+  switch (c) {
+    case L'+':
+      return {BinaryOperator::Plus, 1};
+    case L'-':
+      return {BinaryOperator::Minus, 1};
+    case L'*':
+      return next == L'*' ? FoundOperator{BinaryOperator::Power, 2} : FoundOperator{BinaryOperator::Times, 1};
+    case L'/':
+      return next == L'/' ? FoundOperator{BinaryOperator::Root, 2}
+                          : FoundOperator{BinaryOperator::DividedBy, 1};
+    case L':':
+      return {BinaryOperator::DividedBy, 1};
+    case L'^':
+      return {BinaryOperator::Power, 1};
+    case L'~':
+      return {BinaryOperator::Root, 1};
+    case L'<':
+      if (next == L'=') return {BinaryOperator::LessOrEqual, 2};
+      return next == L'>' ? FoundOperator{BinaryOperator::Unequal, 2}
+                          : FoundOperator{BinaryOperator::Less, 1};
+    case L'>':
+      return next == L'=' ? FoundOperator{BinaryOperator::GreaterOrEqual, 2}
+                          : FoundOperator{BinaryOperator::Greater, 1};
+    case L'=':
+      return next == L'=' ? FoundOperator{BinaryOperator::Equal, 2} : FoundOperator{};
+    case L'&':
+      return next == L'&' ? FoundOperator{BinaryOperator::And, 2} : FoundOperator{};
+    case L'|':
+      return next == L'|' ? FoundOperator{BinaryOperator::Or, 2} : FoundOperator{};
+    case L'm':
+    case L'M':
+      if ((functions & kModuloBit) != 0 && WordAt(text, pos, "mod")) return {BinaryOperator::Modulo, 3};
+      return {};
+    case L'd':
+    case L'D':
+      if ((functions & kWholeDivisionBit) != 0 && WordAt(text, pos, "div"))
+        return {BinaryOperator::WholeDivision, 3};
+      return {};
+    default:
+      return {};
+  }
 }
 
-int FindLogic(std::wstring_view text, std::size_t pos) {
-  const wchar_t c = At(text, pos);
-  return (c == L'|' || c == L'&') && At(text, pos + 1) == c ? 2 : 0;
-}
-
-int FindSum(std::wstring_view text, std::size_t pos) {
-  const wchar_t c = At(text, pos);
-  return c == L'+' || c == L'-' ? 1 : 0;
-}
-
-int FindProduct(std::wstring_view text, std::size_t pos, int functions) {
-  const wchar_t c = At(text, pos);
-  if (c == L'*' || c == L'/' || c == L':') return 1;
-  if ((functions & kModuloBit) != 0 && WordAt(text, pos, "mod")) return 3;
-  if ((functions & kWholeDivisionBit) != 0 && WordAt(text, pos, "div")) return 3;
-  return 0;
-}
-
-int FindPower(std::wstring_view text, std::size_t pos) {
-  const wchar_t c = At(text, pos);
-  if (c == L'^' || c == L'~') return 1;
-  return (c == L'/' || c == L'*') && At(text, pos + 1) == c ? 2 : 0;
+int FindOperatorOfLevel(OperatorLevel level, std::wstring_view text, std::size_t pos, int functions) {
+  const FoundOperator found = FindOperator(text, pos, functions);
+  if (LevelOf(found.op) == level) return found.length;
+  // Where the level of powers has not taken them, `**` and `//` begin with a sign of this level.
+  return level == OperatorLevel::Product && LevelOf(found.op) == OperatorLevel::Power && found.length == 2
+             ? 1
+             : 0;
 }
 
 BinaryOperator OperatorFromText(std::wstring_view text) {
-  for (const Spelling& spelling : kSpellings) {
-    if (IsWord(text, spelling.text)) return spelling.op;
-  }
-  return BinaryOperator::None;
+  const FoundOperator found = FindOperator(text, 0, kModuloBit | kWholeDivisionBit);
+  return static_cast<std::size_t>(found.length) == text.size() ? found.op : BinaryOperator::None;
 }
 
 double CalculateComparison(BinaryOperator op, double a, double b) {
@@ -176,9 +169,7 @@ double CalculateSum(BinaryOperator op, double a, double b, bool computing) {
 }
 
 double CalculateProduct(BinaryOperator op, double a, double b, bool computing) {
-  if (op < BinaryOperator::Times || op > BinaryOperator::WholeDivision) {
-    ThrowFormulaError(ErrorKeys::InternalParserError);
-  }
+  if (LevelOf(op) != OperatorLevel::Product) ThrowFormulaError(ErrorKeys::InternalParserError);
   if (!computing) return 0.0;
   switch (op) {
     case BinaryOperator::Times:

@@ -27,13 +27,29 @@ enum class BinaryOperator : std::uint8_t {
   Root,
 };
 
-/// Length of the operator of one level at `pos`, 0 for none. `pos` may be at the end of the text or behind it.
-int FindComparison(std::wstring_view text, std::size_t pos);
-int FindLogic(std::wstring_view text, std::size_t pos);
-int FindSum(std::wstring_view text, std::size_t pos);
+/// Precedence, loosest first. Prefixes stand between sums and products.
+enum class OperatorLevel : std::uint8_t { None, Comparison, Logic, Sum, Product, Power };
+
+constexpr OperatorLevel LevelOf(BinaryOperator op) {
+  if (op >= BinaryOperator::Power) return OperatorLevel::Power;
+  if (op >= BinaryOperator::Times) return OperatorLevel::Product;
+  if (op >= BinaryOperator::Plus) return OperatorLevel::Sum;
+  if (op >= BinaryOperator::And) return OperatorLevel::Logic;
+  return op == BinaryOperator::None ? OperatorLevel::None : OperatorLevel::Comparison;
+}
+
+/// An operator in a text and its length there.
+struct FoundOperator {
+  BinaryOperator op = BinaryOperator::None;
+  int length = 0;
+};
+
+/// The operator at `pos`, which may be at the end of the text or behind it. `**` and `//` go before `*` and `/`.
 /// @param functions the mask of enabled functions, which switches `mod` and `div`
-int FindProduct(std::wstring_view text, std::size_t pos, int functions);
-int FindPower(std::wstring_view text, std::size_t pos);
+FoundOperator FindOperator(std::wstring_view text, std::size_t pos, int functions);
+
+/// Length of the operator of one level at `pos`, 0 for none.
+int FindOperatorOfLevel(OperatorLevel level, std::wstring_view text, std::size_t pos, int functions);
 
 /// The operator that a text spells, None if it spells none. Case is ignored.
 BinaryOperator OperatorFromText(std::wstring_view text);

@@ -1,13 +1,12 @@
 #include "formula/FormulaParser.h"
 
-#include "formula/BiOperation.h"
 #include "formula/FormulaAccess.h"
 #include "formula/FormulaCharacters.h"
 #include "formula/FormulaErrors.h"
-#include "formula/FunktionOperation.h"
-#include "formula/PrefixOperations.h"
+#include "formula/FormulaWalk.h"
+#include "formula/Operation.h"
 #include "formula/StringOperations.h"
-#include "formula/ZahlOperation.h"
+#include "formula/UsualOperations.h"
 #include "foundation/ErrorKeys.h"
 #include "foundation/KXException.h"
 #include "foundation/Rounding.h"
@@ -97,7 +96,11 @@ bool CFormulaParser::WerteAus(bool berechnen) {
   return true;
 }
 
-double CFormulaParser::EvalText() { return GetFirstOperation()->Eval(m_Pos, this); }
+double CFormulaParser::EvalText() {
+  zeb::WalkedLanguage language;
+  if (zeb::FormulaWalk::Knows(m_Operationen, language)) return zeb::FormulaWalk(*this, language).Expression();
+  return GetFirstOperation()->Eval(m_Pos, this);
+}
 
 const wchar_t* CFormulaParser::GetErrorMessage() const { return m_ErrorMessage.c_str(); }
 
@@ -243,12 +246,7 @@ bool CFormulaParser::IstUmlaut(int c) {
 }
 
 void CFormulaParser::CreateOperationen() {
-  for (Operation* const operation : std::initializer_list<Operation*>{
-           GetVergleichOperation(), GetUndOderOperation(), GetPlusMinusOperation(), GetNotOperation(),
-           GetNegVorzeichenOperation(), GetMalDurchOperation(), GetPotenzOperation(), GetKlammerOperation(),
-           GetZahlOperation(), GetFunktionOperation()}) {
-    m_Operationen.Append(operation);
-  }
+  for (Operation* const operation : zeb::GetUsualOperations().plain) m_Operationen.Append(operation);
 }
 
 Operation* CFormulaParser::GetFirstOperation() { return m_Operationen.empty() ? nullptr : m_Operationen[0]; }

@@ -10,6 +10,17 @@ namespace zeb {
 /// The table row of a name, null if it names no function. Case is ignored; masks are not looked at.
 const FunctionEntry* FindFunction(std::wstring_view name);
 
+/// Whether the masks enable a function of numbers.
+constexpr bool IsEnabled(const FunctionEntry& entry, int mainMask, int extraMask) {
+  return ((entry.set == FunctionSet::Main ? mainMask : extraMask) & entry.Bit()) != 0 &&
+         entry.function != Function::Strcmp;
+}
+
+/// Whether a function is one of the conditions, which read their arguments themselves.
+constexpr bool IsCondition(const FunctionEntry& entry) {
+  return entry.function == Function::Wenn || entry.function == Function::If;
+}
+
 /// The arguments of a call, as far as any function looks at them: none keeps more than two.
 class FunctionArguments {
  public:

@@ -14,9 +14,9 @@ namespace {
 /// The function that a name calls in a parser, null if it calls none there.
 const zeb::FunctionEntry* EnabledFunction(const CFormulaParser& parser, std::wstring_view name) {
   const zeb::FunctionEntry* const entry = zeb::FindFunction(name);
-  if (entry == nullptr || entry->function == zeb::Function::Strcmp) return nullptr;
-  const int mask = entry->set == zeb::FunctionSet::Main ? parser.GetFunktionen() : parser.GetFunktionenEx();
-  return (mask & entry->Bit()) != 0 ? entry : nullptr;
+  if (entry == nullptr || !zeb::IsEnabled(*entry, parser.GetFunktionen(), parser.GetFunktionenEx()))
+    return nullptr;
+  return entry;
 }
 
 void ExpectOpeningBracket(int& pos, CFormulaParser* parser) {
@@ -57,7 +57,7 @@ double FunktionOperation::Eval(int& pos, CFormulaParser* parser) {
     value = parser->GetBerechnen() ? E : 0.0;
   } else if (const zeb::FunctionEntry* const entry = EnabledFunction(*parser, name); entry != nullptr) {
     pos += length;
-    if (entry->function == zeb::Function::Wenn || entry->function == zeb::Function::If) {
+    if (zeb::IsCondition(*entry)) {
       value = EvalWenn(pos, parser);
     } else {
       std::vector<double> values;

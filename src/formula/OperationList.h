@@ -34,7 +34,13 @@ class OperationList {
     ++m_uCount;
   }
 
-  void Append(Operation* operation) { Insert(m_uCount, operation); }
+  void Append(Operation* operation) {
+    if (m_uCount < m_rgpFew.size() && m_rgpMore.empty()) {
+      m_rgpFew[m_uCount++] = operation;
+    } else {
+      Insert(m_uCount, operation);
+    }
+  }
 
   void Remove(std::size_t index) {
     Operation** const entries = m_rgpMore.empty() ? m_rgpFew.data() : m_rgpMore.data();

@@ -2,7 +2,6 @@
 
 #include "formula/FormulaParser.h"
 
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -64,8 +63,16 @@ class ZEB_EXPORT CVariableFormulaParser : public CFormulaParser {
  private:
   friend struct zeb::FormulaAccess;
 
-  using NumberMap = std::map<std::wstring, double, std::less<>>;
-  using StringMap = std::map<std::wstring, std::wstring, std::less<>>;
+  /// Plain `<` on wide strings. Most names differ in their first character.
+  struct NameLess {
+    using is_transparent = void;
+    bool operator()(std::wstring_view a, std::wstring_view b) const {
+      if (!a.empty() && !b.empty() && a.front() != b.front()) return a.front() < b.front();
+      return a < b;
+    }
+  };
+  using NumberMap = std::map<std::wstring, double, NameLess>;
+  using StringMap = std::map<std::wstring, std::wstring, NameLess>;
 
   bool FindVariable(std::wstring_view name, double& wert) const;
   bool FindStringVariable(std::wstring_view name, std::wstring& wert) const;
