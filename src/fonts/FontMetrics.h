@@ -2,6 +2,7 @@
 
 #include "platform/Export.h"
 
+#include <array>
 #include <map>
 #include <string>
 #include <vector>
@@ -308,7 +309,7 @@ class ZEB_EXPORT CFontMetrics {
   bool m_bCJKFont = false;
   std::wstring m_strTTName;
   unsigned short m_rgusUnicodes[256] = {};
-  std::wstring m_rgstrCharNames[256];
+  std::array<std::wstring, 256> m_rgstrCharNames;
   bool m_bUnicodeFont = false;
   CharColl m_CharColl = static_cast<CharColl>(-1);
   CFontData* m_pSubsetData = nullptr;  // owned, shared by copies

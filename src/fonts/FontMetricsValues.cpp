@@ -138,6 +138,10 @@ unsigned short CFontMetrics::GetUnicodeAt(int code) const { return m_rgusUnicode
 
 void CFontMetrics::SetUnicodeAt(int code, unsigned short unicode) { m_rgusUnicodes[code] = unicode; }
 
-const wchar_t* CFontMetrics::GetCharNameAt(int code) const { return m_rgstrCharNames[code].c_str(); }
+const wchar_t* CFontMetrics::GetCharNameAt(int code) const {
+  return m_rgstrCharNames[static_cast<std::size_t>(code)].c_str();
+}
 
-void CFontMetrics::SetCharNameAt(int code, const wchar_t* name) { m_rgstrCharNames[code] = name; }
+void CFontMetrics::SetCharNameAt(int code, const wchar_t* name) {
+  m_rgstrCharNames[static_cast<std::size_t>(code)] = name;
+}
