@@ -59,6 +59,7 @@ CReportZone::CReportZone(const CReportZone& other)
       m_rgpHeightElements(other.m_rgpHeightElements),
       m_pHeightGroupIndex(std::make_unique<zeb::HeightGroupIndex>(*other.m_pHeightGroupIndex)),
       m_rgstrFormulaValueHolderKeys(other.m_rgstrFormulaValueHolderKeys),
+      m_mapFormulaValueHolderKeyIndex(other.m_mapFormulaValueHolderKeyIndex),
       m_rgstrSumValueHolderKeys(other.m_rgstrSumValueHolderKeys),
       m_bFooterZone(other.m_bFooterZone),
       m_bTableCellsSorted(other.m_bTableCellsSorted),
@@ -107,6 +108,7 @@ CReportZone& CReportZone::operator=(const CReportZone& other) {
   m_rgpHeightElements = other.m_rgpHeightElements;
   *m_pHeightGroupIndex = *other.m_pHeightGroupIndex;
   m_rgstrFormulaValueHolderKeys = other.m_rgstrFormulaValueHolderKeys;
+  m_mapFormulaValueHolderKeyIndex = other.m_mapFormulaValueHolderKeyIndex;
   m_rgstrSumValueHolderKeys = other.m_rgstrSumValueHolderKeys;
   m_bFooterZone = other.m_bFooterZone;
   m_bTableCellsSorted = other.m_bTableCellsSorted;
@@ -214,14 +216,6 @@ const wchar_t* CReportZone::GetSumValueHolderKeyAt(int index) const {
 }
 
 int CReportZone::GetSumValueHolderKeyCount() const { return Count(m_rgstrSumValueHolderKeys); }
-
-int CReportZone::FindFormulaValueHolderKey(const wchar_t* key) const {
-  const auto found =
-      std::find(m_rgstrFormulaValueHolderKeys.begin(), m_rgstrFormulaValueHolderKeys.end(), key);
-  return found == m_rgstrFormulaValueHolderKeys.end()
-             ? -1
-             : static_cast<int>(found - m_rgstrFormulaValueHolderKeys.begin());
-}
 
 CValueHolder* CReportZone::GetValueHoldersInTableCellsAt(int index) const {
   return At(m_rgpValueHoldersInTableCells, index);

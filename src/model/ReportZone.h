@@ -2,6 +2,7 @@
 
 #include "platform/Export.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -15,6 +16,7 @@ class CLine;
 class CPicture;
 class CPlaceable;
 class CRectangle;
+class CSumValueHolder;
 class CTableCell;
 class CText;
 class CValueHolder;
@@ -141,7 +143,14 @@ class ZEB_EXPORT CReportZone {
   /// The greatest height of the first group that holds the object, 0 if none does.
   float GetMaxHeightOfElement(CPlaceable* element);
 
-  /// The keys that the formulas of the zone read. Indexes are not checked.
+  /// Finds the keys that the zone's formulas and conditions read, and those that its sums add up. Reads the lists of
+  /// value holders in table cells as they stand. The cells' own conditions are not read.
+  // Fixed behaviour: the sum keys are not emptied first, so that each call appends the sums of a footer zone again.
+  void IdentifyFormulaValueHolderKeys();
+  /// Appends the variables of a formula that are not listed yet to the formula keys. A formula that is null or cannot be
+  /// scanned adds nothing and is no failure.
+  void CollectFormulaVariables(const wchar_t* formula);
+  /// The keys that the formulas of the zone read, in the order met, without duplicates. Indexes are not checked.
   const wchar_t* GetFormulaValueHolderKeyAt(int index) const;
   int GetFormulaValueHolderKeyCount() const;
   /// The keys that the sums of a footer zone add up, with duplicates. Indexes are not checked.
@@ -165,8 +174,8 @@ class ZEB_EXPORT CReportZone {
 
  protected:
   void AddRelationsToOrderVector(CPlaceable* element, bool throwIfNotSortable);
-  /// Index of the key in the formula keys, -1 if it is not listed.
-  int FindFormulaValueHolderKey(const wchar_t* key) const;
+  /// Index of the key in the formula keys by exact comparison, -1 if it is not listed.
+  int FindFormulaValueHolderKey(const wchar_t* key);
   /// Brings the cells into the order of table, row and column; cells of one place come out in reverse order.
   void SortTableCells();
 
@@ -176,6 +185,13 @@ class ZEB_EXPORT CReportZone {
   };
 
   friend class zeb::ZoneReader;
+
+  /// Appends the key to the formula keys unless it is listed.
+  void AddFormulaValueHolderKey(const wchar_t* key);
+  void AddKeysOfFormula(const CFormulaValueHolder& formula);
+  void AddKeysOfSum(const CSumValueHolder& sum);
+  /// The object may be null.
+  void AddKeysOfCondition(const CPlaceable* object);
 
   std::wstring m_strInternalReportZoneName;
   std::vector<CValueHolder*> m_rgpValueHolders;     // owned, shared by copies
@@ -189,6 +205,7 @@ class ZEB_EXPORT CReportZone {
   std::vector<CAdjustHeightElements*> m_rgpHeightElements;     // owned, shared by copies
   std::unique_ptr<zeb::HeightGroupIndex> m_pHeightGroupIndex;  // never null; the copy of a zone has a copy
   std::vector<std::wstring> m_rgstrFormulaValueHolderKeys;
+  std::map<std::wstring, int, std::less<>> m_mapFormulaValueHolderKeyIndex;  // index of each formula key
   std::vector<std::wstring> m_rgstrSumValueHolderKeys;
   bool m_bFooterZone = false;
   bool m_bTableCellsSorted = false;

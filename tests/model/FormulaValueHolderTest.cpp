@@ -108,6 +108,23 @@ TEST(FormulaValueHolder, FixedFirstTypeOfAKeyStays) {
   EXPECT_EQ(formula.GetTypeFromKey(L"x"), CValueHolder::VHTypeNumber);
 }
 
+TEST(FormulaValueHolder, ElementWithoutTypeHasType1AndWithoutKeyIsDropped) {
+  CFormulaValueHolder formula;
+  LoadRecord(
+      formula,
+      "<FormulaValueHolder><ValueHolder/><FormulaData><KeyToType><InternalKey>b</InternalKey></KeyToType>"
+      "<KeyToType><VHType>2</VHType></KeyToType>"
+      "<KeyToType><InternalKey>a</InternalKey><VHType>3</VHType></KeyToType></FormulaData>"
+      "</FormulaValueHolder>");
+  const std::string record = SaveRecord(formula);
+  EXPECT_NE(
+      record.find("<KeyToType><InternalKey>a</InternalKey><VHType>3</VHType></KeyToType>"
+                  "<KeyToType><InternalKey>b</InternalKey><VHType>1</VHType></KeyToType></FormulaData>"),
+      std::string::npos)
+      << record;
+  EXPECT_EQ(record.find("<VHType>2</VHType>"), std::string::npos);
+}
+
 TEST(FormulaValueHolder, FixedSecondLoadKeepsTheFirstTypes) {
   CFormulaValueHolder formula;
   for (const char* const type : {"2", "3"}) {
