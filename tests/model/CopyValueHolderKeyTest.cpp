@@ -20,13 +20,13 @@ TEST(CopyValueHolderKey, FixedPartsAreComparedAndNotTheKey) {
 }
 
 TEST(CopyValueHolderKey, Copies) {
-  const CCopyValueHolderKey key(L"A", L"B");
+  CCopyValueHolderKey key(L"A", L"B");
   const CCopyValueHolderKey copy(key);
+  key = CCopyValueHolderKey(L"X", L"Y");
+  EXPECT_STREQ(key.GetKey(), L"X|Y");
+  EXPECT_TRUE(key.CompareKey(L"X", L"Y"));
   EXPECT_STREQ(copy.GetKey(), L"A|B");
-  CCopyValueHolderKey assigned(L"X", L"Y");
-  assigned = key;
-  EXPECT_STREQ(assigned.GetKey(), L"A|B");
-  EXPECT_TRUE(assigned.CompareKey(L"A", L"B"));
+  EXPECT_TRUE(copy.CompareKey(L"A", L"B"));
 }
 
 }  // namespace
