@@ -1,12 +1,12 @@
 #include "model/ReportDocument.h"
 
+#include "fonts/FontRecords.h"
 #include "fonts/GlobalFontHandler.h"
 #include "foundation/IDManager.h"
 #include "foundation/RecordReader.h"
 #include "foundation/RecordWriter.h"
 #include "model/CopyValueHolderKey.h"
 #include "model/DefinedDynVH.h"
-#include "model/FontRecords.h"
 #include "model/ObjectBinding.h"
 #include "model/ReportZone.h"
 
@@ -58,7 +58,7 @@ bool CReportDocument::Load(zebxmln::CXMLNode* node, CIDManager& ids) {
   while (reader.Read(kZoneID, id)) {
     if (auto* zone = zeb::TakeObject<CReportZone>(binding, id)) AddReportZone(zone);
   }
-  zeb::ReadFontRecords(reader);
+  zeb::ReadFontRecords(reader, *m_pFontHandler, ids);
   reader.Read(kReportLayoutName, m_strReportLayoutName);
   while (zebxmln::CXMLNode* child = reader.Take(kDefinedDynVH)) {
     auto entry = std::make_unique<CDefinedDynVH>();
@@ -75,6 +75,7 @@ bool CReportDocument::Save(zebxmln::CXMLNode* node, CIDManager& ids) {
   for (CReportZone* zone : m_rgpReportZones) {
     if (zone != nullptr) writer.Write(kZoneID, ids.GetIDFromObject(zone));
   }
+  zeb::WriteFontRecords(writer.Node(), *m_pFontHandler, ids);
   writer.Write(kReportLayoutName, m_strReportLayoutName);
   for (CDefinedDynVH* entry : m_rgpDefinedDynVHs) {
     if (entry != nullptr) entry->Save(writer.Node(), ids);

@@ -1,11 +1,11 @@
 #include "model/ReportLayout.h"
 
+#include "fonts/FontRecords.h"
 #include "fonts/GlobalFontHandler.h"
 #include "foundation/IDManager.h"
 #include "foundation/RecordReader.h"
 #include "foundation/RecordWriter.h"
 #include "model/FontNames.h"
-#include "model/FontRecords.h"
 #include "model/LayoutPage.h"
 #include "model/Text.h"
 
@@ -67,7 +67,7 @@ bool CReportLayout::Load(zebxmln::CXMLNode* node, CIDManager& ids) {
     m_rgpPages[0]->Load(node, ids);
     while (!reader.AtEnd() && !reader.Is(zeb::kFontInformation)) reader.Next();
   }
-  zeb::ReadFontRecords(reader);
+  zeb::ReadFontRecords(reader, *m_pFontHandler, ids);
   LocalizeFontNames();
   return true;
 }
@@ -92,6 +92,7 @@ bool CReportLayout::Save(zebxmln::CXMLNode* node, CIDManager& ids) {
   for (CLayoutPage* page : m_rgpPages) {
     if (page != nullptr) page->Save(writer.Add(kLayoutPage), ids);
   }
+  zeb::WriteFontRecords(node, *m_pFontHandler, ids);
   return true;
 }
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "foundation/RecordReader.h"
+
+class CGlobalFontHandler;
+class CIDManager;
+
+// The records of fonts and encodings in the files of documents and layouts.
+namespace zeb {
+
+/// The element with which the font records of a document or layout begin.
+inline constexpr ElementName kFontInformation = L"FontInformation";
+
+/// Encodings that are taken from one file. A record of a few bytes makes an entry of several thousand; what lies
+/// beyond is stepped over.
+inline constexpr int kMostEncodingsOfFile = 1000;
+
+/// Reads the font records and, behind them, the encoding records that stand at the cursor, into the handler's lists.
+/// Font records are stepped over.
+void ReadFontRecords(RecordReader& reader, CGlobalFontHandler& handler, CIDManager& ids);
+
+/// Writes the handler's encodings, other than the standard ones, under the node.
+void WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDManager& ids);
+
+}  // namespace zeb
