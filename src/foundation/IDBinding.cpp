@@ -32,4 +32,6 @@ std::vector<BoundObject> IDBinding::UnownedNamedByRelations() const {
   return m_Tables.UnownedNamedByRelations();
 }
 
+std::int64_t IDBinding::AddClaimedBytes(std::int64_t count) { return m_Tables.AddClaimedBytes(count); }
+
 }  // namespace zeb

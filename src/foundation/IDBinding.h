@@ -2,6 +2,7 @@
 
 #include "foundation/IDTables.h"
 
+#include <cstdint>
 #include <vector>
 
 class CIDManager;
@@ -38,6 +39,10 @@ class IDBinding {
   void NoteNamedByRelation(void* object, ClassTag tag);
   /// The objects that relations named and that nothing owns, in the order of noting.
   std::vector<BoundObject> UnownedNamedByRelations() const;
+
+  /// Adds to the bytes that records of the file claim without bringing them.
+  /// @return the sum of the file
+  std::int64_t AddClaimedBytes(std::int64_t count);
 
  private:
   IDTables& m_Tables;  // observer

@@ -59,11 +59,14 @@ std::vector<BoundObject> IDTables::UnownedNamedByRelations() const {
   return unowned;
 }
 
+std::int64_t IDTables::AddClaimedBytes(std::int64_t count) { return m_iClaimedBytes += count; }
+
 void IDTables::Reset() {
   m_rgiIDs.clear();
   m_rgObjects.clear();
   m_rgbOwned.clear();
   m_rgNamedByRelation.clear();
+  m_iClaimedBytes = 0;
 }
 
 }  // namespace zeb

@@ -37,6 +37,10 @@ class IDTables {
   void AddNamedByRelation(const BoundObject& object);
   std::vector<BoundObject> UnownedNamedByRelations() const;
 
+  /// Adds to the bytes that records of the file claim without bringing them.
+  /// @return the sum
+  std::int64_t AddClaimedBytes(std::int64_t count);
+
   void Reset();
 
  private:
@@ -52,6 +56,7 @@ class IDTables {
   std::unordered_map<void*, bool, Hash>
       m_rgbOwned;                                // of every object that was noted: whether it has an owner
   std::vector<BoundObject> m_rgNamedByRelation;  // in the order of noting
+  std::int64_t m_iClaimedBytes = 0;
   int m_iNextID = 0;
 };
 

@@ -4,7 +4,8 @@
 // comment says; nothing beyond a limit crashes, hangs or uses memory out of proportion to the file.
 namespace zeb {
 
-/// Bytes that the length of a picture may claim beyond what the file holds of it. Above: "NoMoreMemoryLeft".
+/// The greatest length of a picture of which the file does not hold every byte, and the bytes that all pictures of a
+/// file together may claim without bringing them. Above: "NoMoreMemoryLeft".
 inline constexpr int kGreatestUnbackedPicture = 64 * 1024 * 1024;
 
 }  // namespace zeb

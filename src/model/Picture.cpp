@@ -34,6 +34,12 @@ unsigned char* AllocateBlock(int length) {
   return static_cast<unsigned char*>(std::calloc(static_cast<std::size_t>(length), 1));
 }
 
+/// Whether a picture may claim more bytes than the file holds of it.
+bool IsClaimSane(int length, int available, CIDManager& ids) {
+  if (length > zeb::kGreatestUnbackedPicture) return false;
+  return zeb::IDBinding(ids).AddClaimedBytes(length - available) <= zeb::kGreatestUnbackedPicture;
+}
+
 }  // namespace
 
 CPicture::CPicture() = default;
@@ -52,14 +58,14 @@ bool CPicture::Load(zebxmln::CXMLNode* node, CIDManager& idManager) {
   }
   if (auto* const data = reader.Take(kPictureData)) {
     if (auto* const content = dynamic_cast<zebxmln::CXMLBinNode*>(data->GetFirstChildNode()))
-      ReadContent(*content);
+      ReadContent(*content, idManager);
   }
   // Fixed behaviour: an element of old files, accepted and not kept.
   reader.StepOver(kPictureScaling);
   return true;
 }
 
-void CPicture::ReadContent(zebxmln::CXMLBinNode& content) {
+void CPicture::ReadContent(zebxmln::CXMLBinNode& content, CIDManager& ids) {
   void* bytes = nullptr;
   int available = 0;
   content.GetBinaryData(&bytes, &available);
@@ -68,7 +74,7 @@ void CPicture::ReadContent(zebxmln::CXMLBinNode& content) {
   TakeBlock(nullptr, 0);
   if (length == 0) return;
   // Only bytes that exist justify any size; what the length claims beyond them has a limit.
-  const bool isSane = length > 0 && (length <= available || length <= zeb::kGreatestUnbackedPicture);
+  const bool isSane = length > 0 && (length <= available || IsClaimSane(length, available, ids));
   unsigned char* const block = isSane ? AllocateBlock(length) : nullptr;
   if (block == nullptr) Throw(zeb::ErrorKeys::NoMoreMemoryLeft);
   // Fixed behaviour: a length below that of the content cuts it. Behind the content stand zero bytes.

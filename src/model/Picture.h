@@ -37,7 +37,7 @@ class ZEB_EXPORT CPicture : public CPlaceable {
   void LoadPictureFromMem(unsigned char* data, int length);
 
  private:
-  void ReadContent(zebxmln::CXMLBinNode& content);
+  void ReadContent(zebxmln::CXMLBinNode& content, CIDManager& ids);
   /// Frees the present block and puts another in its place.
   void TakeBlock(unsigned char* block, int length);
 

@@ -191,6 +191,24 @@ TEST(Picture, StatedLengthBeyondTheContentHasALimit) {
   EXPECT_EQ(picture.GetPictureLength(), 0);
 }
 
+// Attack: many small records, each of which claims what is just allowed to one.
+TEST(Picture, PicturesOfOneFileShareTheLimit) {
+  CIDManager ids;
+  constexpr int kHalf = zeb::kGreatestUnbackedPicture / 2;
+  CPicture first;
+  LoadRecord(first, Record(std::to_string(kHalf + 3), "YWJj"), ids);
+  CPicture second;
+  LoadRecord(second, Record(std::to_string(kHalf + 3), "YWJj"), ids);
+  EXPECT_EQ(second.GetPictureLength(), kHalf + 3);
+  CPicture third;
+  LoadRecord(third, Record("3", "YWJj"), ids);
+  EXPECT_EQ(Bytes(third), kABC) << "content that is there counts for nothing";
+  EXPECT_EQ(FailureOf([&] { LoadRecord(third, Record("4", "YWJj"), ids); }), kNoMoreMemoryLeft);
+  CIDManager other;
+  LoadRecord(third, Record("4", "YWJj"), other);
+  EXPECT_EQ(third.GetPictureLength(), 4);
+}
+
 TEST(Picture, NegativeLengthCannotBeAllocated) {
   CPicture picture;
   EXPECT_EQ(FailureOf([&] { LoadRecord(picture, Record("-1", "YWJj")); }), kNoMoreMemoryLeft);
