@@ -13,21 +13,39 @@ namespace {
 /// A kind of placed object and how many of it stand in each zone.
 struct Kind {
   std::string_view Record;
-  std::string_view ID;
+  std::string_view ID;         // in the zone's record, and in its own
+  std::string_view RelatedID;  // in the relations of other objects
   int PerZone;
 };
 
+constexpr int kTexts = 41;
+constexpr int kCells = 8;  // each holds one of the texts
+
 // In the order in which their records stand in a file.
-constexpr std::array<Kind, 8> kKinds = {{
-    {"ValueHolder", "VHID", 25},
-    {"FormulaValueHolder", "FormulaVHID", 8},
-    {"SumValueHolder", "SumVHID", 2},
-    {"Text", "TxID", 45},
-    {"Picture", "PicID", 2},
-    {"Rectangle", "RectID", 6},
-    {"Line", "LineID", 4},
-    {"TableCell", "TableCellID", 8},
+constexpr std::array<Kind, 10> kKinds = {{
+    {"ValueHolder", "VHID", "VHID", 25},
+    {"FormulaValueHolder", "FormulaVHID", "VHID", 8},
+    {"SumValueHolder", "SumVHID", "VHID", 2},
+    {"DynValueHolder", "DynVHID", "VHID", 2},
+    {"CopyValueHolder", "CopyVHID", "VHID", 2},
+    {"Text", "TxID", "TxID", kTexts},
+    {"Picture", "PicID", "PicID", 2},
+    {"Rectangle", "RectID", "RectID", 6},
+    {"Line", "LineID", "LineID", 4},
+    {"TableCell", "TableCellID", "TableCellID", kCells},
 }};
+
+constexpr std::string_view kText = "TxID";
+constexpr std::string_view kTableCell = "TableCellID";
+
+constexpr int OffsetOf(std::string_view id) {
+  int offset = 0;
+  for (const Kind& kind : kKinds) {
+    if (kind.ID == id) return offset;
+    offset += kind.PerZone;
+  }
+  return offset;
+}
 
 constexpr int kPerZone = 100;
 
@@ -50,17 +68,19 @@ class Generator {
   void Placeable(int id, bool hasColor);
   void Text(int id, std::string_view content);
   void ValueHolder(int id);
+  void SpecialValueHolder(const Kind& kind, int id);
   void Formula();
-  void Sum();
   void Picture();
   void TableCell(int id);
   void Color(std::string_view name);
   void Relation(int zone, int id, std::string_view idOfPrevious);
 
-  /// Identifiers: the zones from 1, then the objects zone by zone, then a relation for each.
+  /// Identifiers: the zones from 1, then the objects zone by zone, then a relation for each, then what stands for each
+  /// zone in relations.
   int ZoneID(int zone) const { return 1 + zone; }
   int FirstOf(int zone) const { return 1 + m_iZones + zone * kPerZone; }
   int RelationOf(int id) const { return id + m_iZones * kPerZone; }
+  int PlaceholderOf(int zone) const { return RelationOf(FirstOf(m_iZones)) + zone; }
 
   std::ofstream m_Out;
   int m_iZones;
@@ -101,7 +121,7 @@ void Generator::Run() {
     for (const Kind& kind : kKinds) {
       for (int i = 0; i < kind.PerZone; ++i) {
         Relation(zone, id++, previous);
-        previous = kind.ID;
+        previous = kind.RelatedID;
       }
     }
   }
@@ -121,9 +141,18 @@ void Generator::Zone(int zone) {
   Open("ReportZone");
   Leaf("ZoneID", ZoneID(zone));
   Leaf("InternalName", "Zone" + std::to_string(zone));
+  const int firstText = FirstOf(zone) + OffsetOf(kText);
+  const int firstCell = FirstOf(zone) + OffsetOf(kTableCell);
+  for (int id = firstText + kCells; id < firstText + kTexts; ++id) Leaf(kText, id);
   int id = FirstOf(zone);
   for (const Kind& kind : kKinds) {
-    for (int i = 0; i < kind.PerZone; ++i) Leaf(kind.ID, id++);
+    for (int i = 0; i < kind.PerZone; ++i, ++id) {
+      if (kind.ID != kText && kind.ID != kTableCell) Leaf(kind.ID, id);
+    }
+  }
+  for (int i = 0; i < kCells; ++i) {
+    Leaf(kTableCell, firstCell + i);
+    Leaf(kText, firstText + i);
   }
   Leaf("ZoneCanBreak", 0);
   Close("ReportZone");
@@ -131,24 +160,24 @@ void Generator::Zone(int zone) {
 
 void Generator::Record(const Kind& kind, int id) {
   Open(kind.Record);
-  if (kind.ID == "TxID") {
+  if (kind.Record == "Text") {
     Leaf("TxID", id);
     Placeable(id, id % 5 == 0);
     Text(id,
          "Lieferung frei Haus &amp; inkl. Verpackung, Stra\xC3\x9F"
          "e");
-  } else if (kind.ID == "VHID") {
+  } else if (kind.Record == "ValueHolder") {
     ValueHolder(id);
-  } else if (kind.ID == "FormulaVHID" || kind.ID == "SumVHID") {
+  } else if (kind.RelatedID == "VHID") {
     Open("ValueHolder");
     ValueHolder(id);
     Close("ValueHolder");
-    kind.ID == "SumVHID" ? Sum() : Formula();
+    SpecialValueHolder(kind, id);
   } else {
     Leaf(kind.ID, id);
     Placeable(id, true);
-    if (kind.ID == "PicID") Picture();
-    if (kind.ID == "TableCellID") TableCell(id);
+    if (kind.Record == "Picture") Picture();
+    if (kind.Record == "TableCell") TableCell(id);
   }
   Close(kind.Record);
 }
@@ -213,10 +242,24 @@ void Generator::Formula() {
   Open("FormulaOptions");
   Leaf("InternalDecimalPlaces", -1);
   Leaf("ResultIsEmptyIfVHEmpty", 0);
+  Leaf("ResultIsEmptyIfNull", 0);
+  Leaf("ResultIsBool", 0);
   Close("FormulaOptions");
 }
 
-void Generator::Sum() { Leaf("SumKey", "Betrag"); }
+void Generator::SpecialValueHolder(const Kind& kind, int id) {
+  if (kind.Record == "FormulaValueHolder") {
+    Formula();
+  } else if (kind.Record == "SumValueHolder") {
+    Leaf("Name", "Summe");
+    Leaf("SumKey", "Betrag");
+  } else if (kind.Record == "DynValueHolder") {
+    Leaf("Name", "Merkmal" + std::to_string(id % 20));
+  } else {
+    Leaf("RefZoneID", "Zone0");
+    Leaf("RefVHID", "KO.Feld" + std::to_string(id % 500));
+  }
+}
 
 void Generator::Picture() {
   Leaf("PictureDataLength", 300);
@@ -235,7 +278,7 @@ void Generator::Relation(int zone, int id, std::string_view idOfPrevious) {
   Open("PlRel");
   Leaf("PlRelID", RelationOf(id));
   if (idOfPrevious.empty()) {
-    Leaf("ZoneID", ZoneID(zone));
+    Leaf("ZoneID", PlaceholderOf(zone));
   } else {
     Leaf(idOfPrevious, id - 1);
     Open("DestRelPt");
@@ -244,8 +287,8 @@ void Generator::Relation(int zone, int id, std::string_view idOfPrevious) {
   }
   Open("RefOffsetPt");
   Open("SimplePt");
-  Leaf("X", std::to_string(id % 50) + ".0");
-  Leaf("Y", std::to_string(-1 - id % 20) + ".25");
+  Leaf("PtX", std::to_string(id % 50) + ".0");
+  Leaf("PtY", std::to_string(-1 - id % 20) + ".25");
   Close("SimplePt");
   Close("RefOffsetPt");
   Close("PlRel");
