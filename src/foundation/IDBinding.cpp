@@ -8,17 +8,14 @@ IDBinding::IDBinding(CIDManager& ids) : m_Tables(*ids.m_pTables) {}
 
 bool IDBinding::Bind(int id, void* object, ClassTag tag) { return m_Tables.Bind(id, {object, tag}); }
 
-BoundObject IDBinding::Find(int id) const {
-  const BoundObject* bound = m_Tables.Find(id);
-  return bound == nullptr ? BoundObject{} : *bound;
-}
+BoundObject IDBinding::Find(int id) const { return m_Tables.Find(id).value_or(BoundObject{}); }
 
 void* IDBinding::Find(int id, ClassTag tag) const {
   const BoundObject bound = Find(id);
   return bound.Tag == tag || bound.Tag == kUnknownClass ? bound.Object : nullptr;
 }
 
-bool IDBinding::IsBound(int id) const { return m_Tables.Find(id) != nullptr; }
+bool IDBinding::IsBound(int id) const { return m_Tables.Find(id).has_value(); }
 
 bool IDBinding::Own(void* object) { return m_Tables.Own(object); }
 

@@ -3,6 +3,8 @@
 #include "foundation/IDTables.h"
 #include "foundation/ValueConversion.h"
 
+#include <optional>
+
 CIDManager::CIDManager() : m_pTables(std::make_unique<zeb::IDTables>()) {}
 
 CIDManager::CIDManager(const CIDManager& other)
@@ -22,8 +24,8 @@ void CIDManager::GetIDStringFromObject(void* object, wchar_t* buffer) {
 }
 
 void* CIDManager::GetObjectFromID(int id) {
-  const zeb::BoundObject* bound = m_pTables->Find(id);
-  return bound == nullptr ? nullptr : bound->Object;
+  const std::optional<zeb::BoundObject> bound = m_pTables->Find(id);
+  return bound ? bound->Object : nullptr;
 }
 
 void CIDManager::SetObjectWithID(int id, void* object) { m_pTables->Bind(id, {object, zeb::kUnknownClass}); }

@@ -1,54 +1,37 @@
 #include "foundation/IDTables.h"
 
-#include <bit>
 #include <utility>
 
 namespace zeb {
 
-std::size_t IDTables::Hash::operator()(std::uint64_t key) const {
-  // The finalizer of MurmurHash3: every bit of the key moves every bit of the result.
-  key ^= key >> 33;
-  key *= 0xFF51AFD7ED558CCDULL;
-  key ^= key >> 33;
-  key *= 0xC4CEB9FE1A85EC53ULL;
-  key ^= key >> 33;
-  return static_cast<std::size_t>(key);
-}
-
-std::size_t IDTables::Hash::operator()(const void* object) const {
-  return operator()(static_cast<std::uint64_t>(std::bit_cast<std::uintptr_t>(object)));
-}
-
-std::size_t IDTables::Hash::operator()(int id) const {
-  return operator()(static_cast<std::uint64_t>(static_cast<std::uint32_t>(id)));
-}
-
 int IDTables::IDFromObject(void* object) {
-  const auto [entry, isNew] = m_rgiIDs.try_emplace(object, m_iNextID);
+  const auto [entry, isNew] = m_rgIDs.Insert({.Key = object, .ID = m_iNextID});
   if (isNew) ++m_iNextID;
-  return entry->second;
+  return entry->ID;
 }
 
-bool IDTables::Bind(int id, const BoundObject& bound) { return m_rgObjects.try_emplace(id, bound).second; }
+bool IDTables::Bind(int id, const BoundObject& bound) {
+  return m_rgBindings.Insert({.Object = bound.Object, .Key = id, .Tag = bound.Tag}).second;
+}
 
-const BoundObject* IDTables::Find(int id) const {
-  const auto entry = m_rgObjects.find(id);
-  return entry == m_rgObjects.end() ? nullptr : &entry->second;
+std::optional<BoundObject> IDTables::Find(int id) const {
+  const Binding* binding = m_rgBindings.Find(id);
+  if (binding == nullptr) return std::nullopt;
+  return BoundObject{binding->Object, binding->Tag};
 }
 
 bool IDTables::Own(void* object) {
-  const auto [entry, isNew] = m_rgbOwned.try_emplace(object, true);
-  if (isNew) return true;
-  return !std::exchange(entry->second, true);
+  const auto [entry, isNew] = m_rgNoted.Insert({.Key = object, .IsOwned = true});
+  return isNew || !std::exchange(entry->IsOwned, true);
 }
 
 bool IDTables::IsOwned(void* object) const {
-  const auto entry = m_rgbOwned.find(object);
-  return entry != m_rgbOwned.end() && entry->second;
+  const NotedObject* noted = m_rgNoted.Find(object);
+  return noted != nullptr && noted->IsOwned;
 }
 
 void IDTables::AddNamedByRelation(const BoundObject& object) {
-  if (m_rgbOwned.try_emplace(object.Object, false).second) m_rgNamedByRelation.push_back(object);
+  if (m_rgNoted.Insert({.Key = object.Object}).second) m_rgNamedByRelation.push_back(object);
 }
 
 std::vector<BoundObject> IDTables::UnownedNamedByRelations() const {
@@ -62,9 +45,9 @@ std::vector<BoundObject> IDTables::UnownedNamedByRelations() const {
 std::int64_t IDTables::AddClaimedBytes(std::int64_t count) { return m_iClaimedBytes += count; }
 
 void IDTables::Reset() {
-  m_rgiIDs.clear();
-  m_rgObjects.clear();
-  m_rgbOwned.clear();
+  m_rgIDs.Clear();
+  m_rgBindings.Clear();
+  m_rgNoted.Clear();
   m_rgNamedByRelation.clear();
   m_iClaimedBytes = 0;
 }

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <cstddef>
+#include "foundation/EntryTable.h"
+
 #include <cstdint>
-#include <unordered_map>
+#include <optional>
 #include <vector>
 
 namespace zeb {
 
 /// The class of a bound object, as a number of the model's own choice.
-using ClassTag = int;
+using ClassTag = std::int16_t;
 
 /// The class of an object that was bound without one. It matches every class.
 inline constexpr ClassTag kUnknownClass = 0;
@@ -26,8 +27,8 @@ class IDTables {
   /// Binds an identifier unless it is bound already.
   /// @return whether it was free
   bool Bind(int id, const BoundObject& bound);
-  /// @return null if the identifier is not bound
-  const BoundObject* Find(int id) const;
+  /// @return nothing if the identifier is not bound
+  std::optional<BoundObject> Find(int id) const;
 
   /// Notes that an object has an owner.
   /// @return false if it had one before
@@ -44,17 +45,29 @@ class IDTables {
   void Reset();
 
  private:
-  /// Spreads pointers and the small or spaced numbers of files evenly.
-  struct Hash {
-    std::size_t operator()(std::uint64_t key) const;
-    std::size_t operator()(const void* object) const;
-    std::size_t operator()(int id) const;
+  /// An object and its identifier.
+  struct NumberedObject {
+    const void* Key = nullptr;  // observer
+    int ID = 0;
+    bool IsUsed = false;
+  };
+  /// An identifier and what it is bound to.
+  struct Binding {
+    void* Object = nullptr;  // observer
+    int Key = 0;
+    ClassTag Tag = kUnknownClass;
+    bool IsUsed = false;
+  };
+  /// An object that was noted.
+  struct NotedObject {
+    const void* Key = nullptr;  // observer
+    bool IsOwned = false;
+    bool IsUsed = false;
   };
 
-  std::unordered_map<void*, int, Hash> m_rgiIDs;
-  std::unordered_map<int, BoundObject, Hash> m_rgObjects;
-  std::unordered_map<void*, bool, Hash>
-      m_rgbOwned;                                // of every object that was noted: whether it has an owner
+  EntryTable<NumberedObject> m_rgIDs;
+  EntryTable<Binding> m_rgBindings;
+  EntryTable<NotedObject> m_rgNoted;
   std::vector<BoundObject> m_rgNamedByRelation;  // in the order of noting
   std::int64_t m_iClaimedBytes = 0;
   int m_iNextID = 0;
