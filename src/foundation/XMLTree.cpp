@@ -4,7 +4,9 @@
 #include "platform/Unicode.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <cstdint>
 #include <limits>
 #include <optional>
 
@@ -119,7 +121,14 @@ bool XMLTree::CopyShortText(const Node& node, std::span<wchar_t> text) {
 }
 
 void XMLTree::SetText(Node& node, std::wstring_view text) {
-  if (SurvivesUtf8(text)) {
+  // Nearly all texts are short and plain, the numbers above all.
+  std::array<char, 64> plain;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled as far as it is read
+  const auto isPlain = [](wchar_t character) { return static_cast<std::uint32_t>(character) < 0x80; };
+  if (text.size() <= plain.size() && std::all_of(text.begin(), text.end(), isPlain)) {
+    std::transform(text.begin(), text.end(), plain.begin(),
+                   [](wchar_t character) { return static_cast<char>(character); });
+    SetUtf8Text(node, {plain.data(), text.size()});
+  } else if (SurvivesUtf8(text)) {
     SetUtf8Text(node, WideToUtf8(text));
   } else if (!HasChildren(node)) {
     ForgetBinary(node);
