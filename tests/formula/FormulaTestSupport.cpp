@@ -91,6 +91,21 @@ bool Same(const Outcome& a, const Outcome& b) {
          std::bit_cast<std::uint64_t>(a.value) == std::bit_cast<std::uint64_t>(b.value);
 }
 
+TableLine ParseTableLine(const std::string& line) {
+  TableLine entry{};
+  const std::size_t arrow = line.rfind(" => ");
+  if (arrow == std::string::npos) {
+    ADD_FAILURE() << "no outcome: " << line;
+    return entry;
+  }
+  entry.formula = Wide(line.substr(0, arrow));
+  const std::string outcomes = line.substr(arrow + 4);
+  const std::size_t bar = outcomes.find(" | ");
+  entry.computed = ParseOutcome(outcomes.substr(0, bar));
+  if (bar != std::string::npos) entry.checked = ParseOutcome(outcomes.substr(bar + 3));
+  return entry;
+}
+
 std::vector<TableLine> ReadTable(const std::string& name) {
   std::ifstream file(std::string(ZEB_TEST_DATA "/formula/") + name);
   EXPECT_TRUE(file.is_open()) << name;
@@ -98,17 +113,8 @@ std::vector<TableLine> ReadTable(const std::string& name) {
   std::string line;
   for (int number = 1; std::getline(file, line); ++number) {
     if (line.empty() || line.starts_with("# ")) continue;
-    const std::size_t arrow = line.rfind(" => ");
-    if (arrow == std::string::npos) {
-      ADD_FAILURE() << name << ":" << number << ": no outcome";
-      continue;
-    }
-    TableLine entry{number, Wide(line.substr(0, arrow)), {}, {}};
-    const std::string outcomes = line.substr(arrow + 4);
-    const std::size_t bar = outcomes.find(" | ");
-    entry.computed = ParseOutcome(outcomes.substr(0, bar));
-    if (bar != std::string::npos) entry.checked = ParseOutcome(outcomes.substr(bar + 3));
-    table.push_back(entry);
+    table.push_back(ParseTableLine(line));
+    table.back().number = number;
   }
   EXPECT_FALSE(table.empty()) << name;
   return table;

@@ -41,6 +41,9 @@ struct TableLine {
   Outcome Expected(bool compute) const { return compute || !checked ? computed : *checked; }
 };
 
+/// A line `FORMULA => OUTCOME`, or `FORMULA => OUTCOME | OUTCOME`.
+TableLine ParseTableLine(const std::string& line);
+
 std::vector<TableLine> ReadTable(const std::string& name);
 
 /// The variables that the tables name.
