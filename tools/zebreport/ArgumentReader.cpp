@@ -7,6 +7,14 @@
 
 namespace zebreport {
 
+namespace {
+
+[[noreturn]] void ThrowValueMissing(const std::wstring& option, const std::wstring& what) {
+  throw UsageFailure(option + L" needs " + what + L" behind it; see zebreport help.");
+}
+
+}  // namespace
+
 ArgumentReader::ArgumentReader(std::vector<std::wstring> arguments) : m_arguments(std::move(arguments)) {}
 
 std::optional<std::vector<std::wstring>> ArgumentReader::TakeOption(const std::wstring& name,
@@ -15,14 +23,25 @@ std::optional<std::vector<std::wstring>> ArgumentReader::TakeOption(const std::w
   if (option == m_arguments.end()) return std::nullopt;
   const auto available = static_cast<std::size_t>(m_arguments.end() - option) - 1;
   if (available < count) {
-    throw UsageFailure(name + L" needs " +
-                       (count == 1 ? std::wstring(L"a path") : std::to_wstring(count) + L" paths") +
-                       L" behind it; see zebreport help.");
+    ThrowValueMissing(name, count == 1 ? L"a path" : std::to_wstring(count) + L" paths");
   }
   const auto end = option + 1 + static_cast<std::ptrdiff_t>(count);
   std::vector<std::wstring> values(option + 1, end);
   m_arguments.erase(option, end);
   return values;
+}
+
+std::vector<std::wstring> ArgumentReader::TakeEach(const std::wstring& name, const std::wstring& what) {
+  std::vector<std::wstring> values;
+  for (;;) {
+    const auto option = std::find(m_arguments.begin(), m_arguments.end(), name);
+    if (option == m_arguments.end()) return values;
+    if (option + 1 == m_arguments.end()) {
+      ThrowValueMissing(name, what);
+    }
+    values.push_back(option[1]);
+    m_arguments.erase(option, option + 2);
+  }
 }
 
 std::wstring ArgumentReader::TakeFirst() {
@@ -33,6 +52,14 @@ std::wstring ArgumentReader::TakeFirst() {
 }
 
 std::vector<std::wstring> ArgumentReader::TakeRest(const std::vector<std::wstring>& names) {
+  std::vector<std::wstring> rest = TakeRestAndMore(names);
+  if (rest.size() > names.size()) {
+    throw UsageFailure(L"the argument " + rest[names.size()] + L" is one too many; see zebreport help.");
+  }
+  return rest;
+}
+
+std::vector<std::wstring> ArgumentReader::TakeRestAndMore(const std::vector<std::wstring>& names) {
   for (const std::wstring& argument : m_arguments) {
     if (argument.starts_with(L"--")) {
       throw UsageFailure(L"the option " + argument + L" does not belong here; see zebreport help.");
@@ -40,10 +67,6 @@ std::vector<std::wstring> ArgumentReader::TakeRest(const std::vector<std::wstrin
   }
   if (m_arguments.size() < names.size()) {
     throw UsageFailure(L"the " + names[m_arguments.size()] + L" is missing; see zebreport help.");
-  }
-  if (m_arguments.size() > names.size()) {
-    throw UsageFailure(L"the argument " + m_arguments[names.size()] +
-                       L" is one too many; see zebreport help.");
   }
   return std::exchange(m_arguments, {});
 }

@@ -15,6 +15,11 @@ class ArgumentReader {
   /// @throws UsageFailure if a value is missing
   std::optional<std::vector<std::wstring>> TakeOption(const std::wstring& name, std::size_t count);
 
+  /// Takes every occurrence of an option and the one value behind each.
+  /// @param what what the value is, for the user
+  /// @throws UsageFailure if a value is missing
+  std::vector<std::wstring> TakeEach(const std::wstring& name, const std::wstring& what);
+
   /// Takes the first argument, the command; "help" if there is none.
   std::wstring TakeFirst();
 
@@ -22,6 +27,9 @@ class ArgumentReader {
   /// @param names what each argument is; all of them are needed
   /// @throws UsageFailure if there are more or fewer arguments, or an option that nobody has taken
   std::vector<std::wstring> TakeRest(const std::vector<std::wstring>& names);
+
+  /// As TakeRest, with any number of arguments behind the named ones.
+  std::vector<std::wstring> TakeRestAndMore(const std::vector<std::wstring>& names);
 
  private:
   std::vector<std::wstring> m_arguments;

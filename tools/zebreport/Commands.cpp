@@ -11,6 +11,11 @@ constexpr Command kCommands[] = {
      RunOrder},
     {L"copy", L"REPORT OUT [--layout LAYOUT LAYOUTOUT]", L"loads the report, saves it and checks the copy",
      RunCopy},
+    {L"eval", L"FORMULA [NAME=VALUE ...] [--string NAME=TEXT ...]",
+     L"computes a formula with the given variables", RunEval},
+    {L"eval", L"FORMULA --scan", L"lists the variables that a formula reads", RunEval},
+    {L"eval", L"FORMULA --replace OLD=NEW ...", L"prints a formula with other names for its variables",
+     RunEval},
     {L"help", L"", L"prints this text", RunHelp},
 };
 

@@ -24,6 +24,7 @@ std::span<const Command> AllCommands();
 const Command* FindCommand(const std::wstring& name);
 
 int RunCopy(ArgumentReader& arguments, std::wstring& output);
+int RunEval(ArgumentReader& arguments, std::wstring& output);
 int RunHelp(ArgumentReader& arguments, std::wstring& output);
 int RunOrder(ArgumentReader& arguments, std::wstring& output);
 int RunShow(ArgumentReader& arguments, std::wstring& output);

@@ -1,5 +1,6 @@
 #include "Describe.h"
 
+#include "FormulaText.h"
 #include "TextFormat.h"
 
 namespace zebreport {
@@ -115,9 +116,20 @@ void AddField(const CValueHolder& field, Texts& texts) {
   if (!content.empty()) texts.push_back(L"content " + Quoted(content));
 }
 
+/// The variables that a formula reads; nothing if there are none.
+void AddVariables(const wchar_t* formula, Texts& texts) {
+  const FormulaVariables variables = FindVariables(formula);
+  if (!variables.failure.empty()) {
+    texts.push_back(L"which cannot be read: " + variables.failure);
+  } else if (!variables.names.empty()) {
+    texts.push_back(L"which reads " + Joined(variables.names));
+  }
+}
+
 void AddFormula(const CFormulaValueHolder& formula, Texts& texts) {
   texts.push_back(L"name " + Quoted(formula.GetName()));
   texts.push_back(L"formula " + Quoted(formula.GetFormula()));
+  AddVariables(formula.GetFormula(), texts);
   Texts parts = {L"decimal places from " + Quoted(formula.GetRoundVHKey())};
   if (formula.GetInternalDecimalPlaces() != -1) {
     parts.push_back(std::to_wstring(formula.GetInternalDecimalPlaces()) + L" places inside");
@@ -153,6 +165,7 @@ void AddCondition(const CCondition& condition, Texts& texts) {
   for (const auto& [key, type] : condition.GetKeyToTypeMap()) keys.push_back(key + L": " + TypeName(type));
   texts.push_back(L"shown if " + Quoted(condition.GetFormula()) +
                   (keys.empty() ? L"" : L" (" + Joined(keys) + L")"));
+  AddVariables(condition.GetFormula(), texts);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@ namespace zebreport {
 
 int RunHelp(ArgumentReader& arguments, std::wstring& output) {
   arguments.TakeRest({});
-  output += L"zebreport looks into report and layout files.\n\n";
+  output += L"zebreport looks into report and layout files and their formulas.\n\n";
   for (const Command& command : AllCommands()) {
     output += std::wstring(L"  zebreport ") + command.name;
     if (*command.usage != L'\0') output += std::wstring(L" ") + command.usage;
@@ -14,8 +14,10 @@ int RunHelp(ArgumentReader& arguments, std::wstring& output) {
       L"\n"
       L"Without --layout, show and order take the layout file that the report names, from the report's "
       L"folder.\n"
+      L"Formulas are those of reports: names as in [x y], texts as in strcmp(Name; \"text\").\n"
       L"--catalogue FOLDER names the folder of the error catalogue, KXErrorMessages.xml.\n"
-      L"Exit codes: 0 done, 1 a file could not be read, written or understood, 2 wrong usage.\n";
+      L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, 2 wrong "
+      L"usage.\n";
   return 0;
 }
 

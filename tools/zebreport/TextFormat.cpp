@@ -26,6 +26,12 @@ std::wstring Number(float value) {
   return text == L"-0" ? L"0" : text;
 }
 
+std::wstring ExactNumber(double value) {
+  std::array<char, 64> digits{};
+  const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+  return {static_cast<const char*>(digits.data()), end};
+}
+
 std::wstring Quoted(const std::wstring& text) {
   std::wstring quoted = L"\"";
   for (const wchar_t character : text) {

@@ -8,6 +8,10 @@ namespace zebreport {
 /// The number as files keep it, with at most six decimals and a decimal point whatever the locale: 12, 0.5.
 std::wstring Number(float value);
 
+/// The number with as few digits as give the very same number when they are read again, with a decimal point whatever
+/// the locale.
+std::wstring ExactNumber(double value);
+
 /// The text in quotes on one line: line ends, tabs, quotes and backslashes are escaped.
 std::wstring Quoted(const std::wstring& text);
 
