@@ -67,8 +67,8 @@ void CReportRootElement::LoadReport(const wchar_t* reportFile, const wchar_t* la
 void CReportRootElement::ReadFiles(const wchar_t* reportFile, const wchar_t* layoutFile) {
   CIDManager reportIDs;
   CIDManager layoutIDs;
-  const zeb::UnownedObjects unownedOfReport(reportIDs);
-  const zeb::UnownedObjects unownedOfLayout(layoutIDs);
+  const zeb::UnownedObjects unownedOfReport(*this, reportIDs);
+  const zeb::UnownedObjects unownedOfLayout(*this, layoutIDs);
   std::optional<zeb::XMLFile> report;
   std::optional<zeb::RecordReader> records;
   if (reportFile != nullptr) {

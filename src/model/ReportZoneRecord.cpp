@@ -122,9 +122,7 @@ class zeb::ZoneReader {
     std::wstring zoneName;
     while (m_Reader.Read(kKeepTogetherZoneID, zoneName)) m_Zone.AddZonesKeepTogether(zoneName.c_str());
     m_Zone.m_rgpDefinedFormulaValueHolders.clear();
-    while (m_Reader.Read(kDefinedFormulaVHID, id)) {
-      m_Zone.AddDefinedFormulaValueHolder(FindOrMakeObject<CFormulaValueHolder>(m_Binding, id));
-    }
+    while (m_Reader.Read(kDefinedFormulaVHID, id)) AddDefinedFormula(id);
   }
 
  private:
@@ -139,6 +137,13 @@ class zeb::ZoneReader {
     ReadReferences<CRectangle>(kRectID,
                                [this](CRectangle* rectangle) { m_Zone.AddRectangleElement(rectangle); });
     ReadReferences<CLine>(kLineID, [this](CLine* line) { m_Zone.AddLineElement(line); });
+  }
+
+  // The formula has no owner. It is noted, so that it is not lost where a second record of the zone empties the list.
+  void AddDefinedFormula(int id) {
+    auto* formula = FindOrMakeObject<CFormulaValueHolder>(m_Binding, id);
+    m_Binding.NoteNamedByRelation(static_cast<CPlaceable*>(formula), kPlaceableTag);
+    m_Zone.AddDefinedFormulaValueHolder(formula);
   }
 
   /// Reads the references of one name and gives each object that has no owner yet to `add`.

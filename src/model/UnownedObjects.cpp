@@ -1,10 +1,15 @@
 #include "model/UnownedObjects.h"
 
+#include "model/FormulaValueHolder.h"
 #include "model/LayoutPage.h"
 #include "model/ObjectBinding.h"
+#include "model/ReportDocument.h"
 #include "model/ReportLayout.h"
 #include "model/ReportRootElement.h"
+#include "model/ReportZone.h"
 #include "model/TableCell.h"
+
+#include <unordered_set>
 
 namespace zeb {
 
@@ -18,12 +23,26 @@ void DeleteCellElements(CLayoutPage& page) {
   }
 }
 
+/// The formulas that zones define: they are the caller's.
+std::unordered_set<const CPlaceable*> DefinedFormulas(CReportDocument* document) {
+  std::unordered_set<const CPlaceable*> formulas;
+  for (int i = 0; document != nullptr && i < document->GetReportZoneCount(); ++i) {
+    const CReportZone* zone = document->GetReportZoneAt(i);
+    for (int j = 0; zone != nullptr && j < zone->GetDefinedFormulaValueHoldersCount(); ++j) {
+      formulas.insert(zone->GetDefinedFormulaValueHolderAt(j));
+    }
+  }
+  return formulas;
+}
+
 }  // namespace
 
 UnownedObjects::~UnownedObjects() {
+  const auto defined = DefinedFormulas(m_Root.GetReportDocument());
   for (const BoundObject& object : IDBinding(m_IDs).UnownedNamedByRelations()) {
-    if (object.Tag == kPlaceableTag) {
-      CReportRootElement::AddDeletableObject(static_cast<CPlaceable*>(object.Object));
+    auto* placeable = static_cast<CPlaceable*>(object.Object);
+    if (object.Tag == kPlaceableTag && !defined.contains(placeable)) {
+      CReportRootElement::AddDeletableObject(placeable);
     }
   }
 }

@@ -4,21 +4,25 @@
 
 class CIDManager;
 class CReportLayout;
+class CReportRootElement;
 
 namespace zeb {
 
-/// Hands the objects that only relations of a file named, and that no list took, to the list that the root element
-/// clears. Does so at the end of its scope, also where a failure passes.
+/// Hands the objects that a file made, and that no list took or kept, to the list that the root element clears: those
+/// that only relations named, and defined formulas of a zone whose second record names others. Does so at the end of
+/// its scope, also where a failure passes.
 class UnownedObjects {
  public:
+  /// @param root gets the document of the file
   /// @param ids the identifiers of the file that is read in the scope
-  explicit UnownedObjects(CIDManager& ids) : m_IDs(ids) {}
+  UnownedObjects(const CReportRootElement& root, CIDManager& ids) : m_Root(root), m_IDs(ids) {}
   ~UnownedObjects();
   UnownedObjects(const UnownedObjects&) = delete;
   UnownedObjects& operator=(const UnownedObjects&) = delete;
 
  private:
-  CIDManager& m_IDs;  // observer
+  const CReportRootElement& m_Root;  // observer
+  CIDManager& m_IDs;                 // observer
 };
 
 /// A layout that is being read. Where a failure passes, it ends with all that the file has put into it: also with the
