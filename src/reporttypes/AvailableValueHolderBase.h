@@ -38,7 +38,7 @@ class ZEB_EXPORT CAvailableValueHolderBase {
   void SetExternalDescription(const wchar_t* description);
 
  private:
-  wchar_t m_szValueText[1024];
+  [[maybe_unused]] wchar_t m_szValueText[1024];  // room for a text of a derived class
   wchar_t m_szInternalKey[255];
   wchar_t m_szExternalKey[255];
   wchar_t m_szExternalDescription[1024];
