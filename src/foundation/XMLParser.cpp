@@ -108,6 +108,8 @@ void TreeBuilder::OnStart(void* userData, const XML_Char* name, const XML_Char**
 
 void TreeBuilder::OnEnd(void* userData, const XML_Char* /*name*/) {
   TreeBuilder& self = From(userData);
+  // The end of an empty element comes even if its start has stopped the parser.
+  if (self.m_bOutOfMemory) return;
   self.Guard([&] { self.End(); });
 }
 
