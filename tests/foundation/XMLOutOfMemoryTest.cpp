@@ -86,4 +86,19 @@ TEST(XMLOutOfMemory, IsReportedWhereverAReadingMeetsIt) {
 
 TEST(XMLOutOfMemory, IsReportedAtTheStartOfAnEmptyRoot) { EXPECT_GT(FailEachAllocationOfReading("<R/>"), 3); }
 
+TEST(XMLOutOfMemory, IsReportedAndLeavesTheOldFileWhereverAWritingMeetsIt) {
+  const zebtest::TempDir folder;
+  const std::wstring path = folder.WideFile("text.xml");
+  const zebtest::DocumentPointer document = zebtest::LoadText("<R><A>text</A><B><C/><C/></B></R>");
+  zebtest::WriteFile(folder.File("text.xml"), "old");
+  const int reported = FailEachAllocation(
+      [&] { document->SaveDocumentToFile(path.c_str(), true); },
+      [&] {
+        EXPECT_EQ(zebtest::ReadFile(folder.File("text.xml")), "old");
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
+      });
+  EXPECT_GT(reported, 2);
+  EXPECT_NE(zebtest::ReadFile(folder.File("text.xml")), "old");
+}
+
 }  // namespace

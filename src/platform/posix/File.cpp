@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <utility>
 
 namespace zeb {
 
@@ -133,11 +134,12 @@ FileStatus ReplacingFile::State::MakeTemporary(mode_t mode) {
   // The name does not grow from the target's, which may be as long as names can be.
   constexpr int kAttempts = 1000;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    const std::string name =
+    std::string name =
         FolderOf(Target) + ".zeb" + std::to_string(getpid()) + "-" + std::to_string(attempt) + ".tmp";
     Descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
     if (Descriptor >= 0) {
-      Temporary = name;
+      // Moved, as the file exists now: a copy that fails would leave it behind.
+      Temporary = std::move(name);
       return FileStatus::Ok;
     }
     if (errno != EEXIST) return LastStatus();
@@ -185,6 +187,8 @@ FileStatus ReplacingFile::Write(std::span<const std::byte> bytes) {
 
 FileStatus ReplacingFile::Commit() {
   State& state = *m_pState;
+  // Made here, as nothing may fail behind the replacing.
+  const std::string folder = FolderOf(state.Target);
   if (fsync(state.Descriptor) != 0) return LastStatus();
   const int descriptor = state.Descriptor;
   state.Descriptor = -1;
@@ -192,7 +196,6 @@ FileStatus ReplacingFile::Commit() {
   if (rename(state.Temporary.c_str(), state.Target.c_str()) != 0) return LastStatus();
   state.Temporary.clear();
   // The new name is on the disk once its folder is. The replacing itself has succeeded, whatever comes of this.
-  const std::string folder = FolderOf(state.Target);
   const int folderDescriptor =
       open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (folderDescriptor >= 0) {

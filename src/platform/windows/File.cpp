@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace zeb {
 
@@ -137,10 +138,11 @@ FileStatus ReplacingFile::State::MakeTemporary() {
   constexpr int kAttempts = 1000;
   const std::wstring start = FolderOf(Target) + L".zeb" + std::to_wstring(GetCurrentProcessId()) + L"-";
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    const std::wstring name = start + std::to_wstring(attempt) + L".tmp";
+    std::wstring name = start + std::to_wstring(attempt) + L".tmp";
     Handle = CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (Handle != INVALID_HANDLE_VALUE) {
-      Temporary = name;
+      // Moved, as the file exists now: a copy that fails would leave it behind.
+      Temporary = std::move(name);
       return FileStatus::Ok;
     }
     if (GetLastError() != ERROR_FILE_EXISTS) return LastStatus();
