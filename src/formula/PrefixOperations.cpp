@@ -41,7 +41,9 @@ double KlammerOperation::Eval(int& pos, CFormulaParser* parser) {
 
   const zeb::NestingLevel level(*parser);
   pos += length;
-  const double value = GetFirstOperation(parser)->Eval(pos, parser);
+  Operation* const first = GetFirstOperation(parser);
+  if (first == nullptr) zeb::ThrowFormulaError(zeb::ErrorKeys::InternalParserError);
+  const double value = first->Eval(pos, parser);
   if (!zeb::IsAt(*parser, pos, L')')) zeb::ThrowFormulaError(zeb::ErrorKeys::ClosingBracketExpected);
   ++pos;
   return value;

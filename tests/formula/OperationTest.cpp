@@ -168,6 +168,15 @@ TEST(Operation, WithoutAnEntryBehindItFails) {
             L"InternalParserError");
 }
 
+TEST(Operation, OfBracketsFailsInAParserWithoutOperations) {
+  formulatest::OpenParser<CFormulaParser> parser;
+  parser = L"(1)";
+  while (parser.GetFirstOperation() != nullptr) parser.DeleteOperation(parser.GetFirstOperation());
+  int position = 0;
+  EXPECT_EQ(KeyOf([&] { GetKlammerOperation()->Eval(position, &parser); }), L"InternalParserError");
+  EXPECT_EQ(position, 1);
+}
+
 TEST(Operation, OfACallerExtendsTheLanguage) {
   formulatest::OpenParser<CFormulaParser> parser;
   QuestionOperation question;
