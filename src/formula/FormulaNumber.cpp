@@ -1,7 +1,6 @@
 #include "formula/FormulaNumber.h"
 
 #include "formula/FormulaErrors.h"
-#include "formula/FormulaParser.h"
 #include "formula/FormulaRounding.h"
 #include "foundation/ErrorKeys.h"
 #include "foundation/ValueConversion.h"
@@ -10,7 +9,6 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <cwchar>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -32,7 +30,6 @@ std::size_t DigitRun(std::wstring_view text, std::size_t pos) {
 /// The parts of a number without its sign.
 struct Literal {
   std::wstring_view whole;
-  bool hasMark = false;
   std::wstring_view decimals;
 };
 
@@ -40,8 +37,8 @@ Literal Split(std::wstring_view text) {
   Literal literal;
   literal.whole = text.substr(0, DigitRun(text, 0));
   const std::size_t mark = literal.whole.size();
-  literal.hasMark = mark < text.size() && IsMark(text[mark]);
-  if (literal.hasMark) literal.decimals = text.substr(mark + 1, DigitRun(text, mark + 1));
+  if (mark < text.size() && IsMark(text[mark]))
+    literal.decimals = text.substr(mark + 1, DigitRun(text, mark + 1));
   return literal;
 }
 
@@ -76,23 +73,8 @@ double NearestDouble(const Literal& literal) {
   return tooSmall ? 0.0 : std::numeric_limits<double>::infinity();
 }
 
-/// What the standard library's scan makes of the number with the locale's decimal point: for a locale whose point is
-/// neither `.` nor `,` that is not the number itself.
-double ScanInLocale(const Literal& literal, const std::wstring& decimalPoint) {
-  const std::wstring text = std::wstring(literal.whole) + decimalPoint + std::wstring(literal.decimals);
-  double value = 0.0;
-  std::swscanf(text.c_str(), L"%lf", &value);
-  return value;
-}
-
-bool IsUsualPoint(const std::wstring& decimalPoint) { return decimalPoint == L"." || decimalPoint == L","; }
-
 double Value(const Literal& literal) {
   const std::size_t digits = literal.whole.size() + literal.decimals.size();
-  if (literal.hasMark) {
-    const std::wstring& decimalPoint = CFormulaParser::GetWinsysDez();
-    if (!IsUsualPoint(decimalPoint)) return ScanInLocale(literal, decimalPoint);
-  }
   if (digits > kExactDigits) return NearestDouble(literal);
   // One division of two exact numbers gives the nearest double, as the standard library's scan does.
   const std::uint64_t number = AppendDigits(AppendDigits(0, literal.whole), literal.decimals);
@@ -120,18 +102,12 @@ double ReadNumber(std::wstring_view number) {
   return RoundTo14Decimals(value);
 }
 
-bool DecimalMark::IsPlain() {
-  if (m_state == State::Unknown)
-    m_state = IsUsualPoint(CFormulaParser::GetWinsysDez()) ? State::Plain : State::Other;
-  return m_state == State::Plain;
-}
-
-double ReadNumberAt(std::wstring_view text, std::size_t pos, DecimalMark& mark, std::size_t& length) {
+double ReadNumberAt(std::wstring_view text, std::size_t pos, std::size_t& length) {
   // A usual number is short enough to be read exactly and to be divided in one step.
   const std::size_t limit = std::min(text.size(), pos + kExactDigits);
   std::size_t end = pos + DigitRun(text.substr(0, limit), pos);
   std::uint64_t number = AppendDigits(0, text.substr(pos, end - pos));
-  const bool hasMark = end < limit && IsMark(text[end]) && mark.IsPlain();
+  const bool hasMark = end < limit && IsMark(text[end]);
   std::size_t decimals = 0;
   if (hasMark) {
     decimals = DigitRun(text.substr(0, limit), end + 1);

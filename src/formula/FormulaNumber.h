@@ -1,10 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
-// Numbers in a formula's text.
+// Numbers in a formula's text. Point and comma are both decimal marks, whatever the locale.
 namespace zeb {
 
 /// Length of the number at `pos`, 0 for none. A `-` at `pos` is skipped by the scan and not counted, and no digits are
@@ -15,17 +14,7 @@ std::size_t FindNumber(std::wstring_view text, std::size_t pos);
 /// Keys: "DoubleExpected" if it holds no digit, "NumberTooLong" beyond the range of a double.
 double ReadNumber(std::wstring_view number);
 
-/// Whether the locale's decimal point lets numbers with decimals be read as they stand. Asks the locale at most once.
-class DecimalMark {
- public:
-  bool IsPlain();
-
- private:
-  enum class State : std::uint8_t { Unknown, Plain, Other };
-  State m_state = State::Unknown;
-};
-
 /// ReadNumber for the number at `pos`, which begins with a digit; its length comes with it.
-double ReadNumberAt(std::wstring_view text, std::size_t pos, DecimalMark& mark, std::size_t& length);
+double ReadNumberAt(std::wstring_view text, std::size_t pos, std::size_t& length);
 
 }  // namespace zeb

@@ -137,7 +137,7 @@ double FormulaWalk::Bracket() {
 
 double FormulaWalk::Number() {
   std::size_t length = 0;
-  const double value = ReadNumberAt(m_text, static_cast<std::size_t>(m_pos), m_mark, length);
+  const double value = ReadNumberAt(m_text, static_cast<std::size_t>(m_pos), length);
   m_pos += static_cast<int>(length);
   return value;
 }

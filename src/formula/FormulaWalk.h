@@ -1,7 +1,6 @@
 #pragma once
 
 #include "formula/FormulaCharacters.h"
-#include "formula/FormulaNumber.h"
 #include "formula/FormulaOperators.h"
 
 #include <cstddef>
@@ -90,7 +89,6 @@ class FormulaWalk {
   int& m_pos;
   const bool& m_computing;
   CVariableFormulaParser* m_variables = nullptr;  // observer; m_parser, once a variable has been met
-  DecimalMark m_mark;
   FoundOperator m_next;
 };
 

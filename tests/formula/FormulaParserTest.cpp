@@ -437,6 +437,19 @@ TEST(FormulaParser, RefusesNumbersBeyondTheRangeOfADouble) {
   EXPECT_EQ(parser.GetWert(), 0.0);
 }
 
+TEST(FormulaParser, ReadsBothDecimalMarksUnderEveryLocale) {
+  // The decimal point of the last two is neither; machines need not have them.
+  for (const char* const name : {"C", "de_DE.UTF-8", "ps_AF.UTF-8", "fa_IR.UTF-8"}) {
+    const formulatest::LocaleScope locale(name);
+    if (!locale.IsSet()) continue;
+    SCOPED_TRACE(name);
+    for (const wchar_t* const text : {L"1,5 + 1.5", L",5 + 2.5", L"3,000000000000000000 * 1."}) {
+      CFormulaParser parser(text);
+      EXPECT_EQ(formulatest::Text(formulatest::Run(parser)), "3");
+    }
+  }
+}
+
 // Nesting
 
 namespace {

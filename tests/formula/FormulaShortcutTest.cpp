@@ -87,7 +87,6 @@ TEST(FormulaShortcut, ReadsNumbersAsTheStandardLibraryDoes) {
     const formulatest::LocaleScope locale(name);
     ASSERT_TRUE(locale.IsSet()) << name;
     const wchar_t point = name == std::string("C") ? L'.' : L',';
-    zeb::DecimalMark mark;
     for (int i = 0; i < 10000; ++i) {
       std::wstring whole;
       std::wstring decimals;
@@ -104,14 +103,13 @@ TEST(FormulaShortcut, ReadsNumbersAsTheStandardLibraryDoes) {
       if (whole.empty()) continue;
       std::size_t length = 0;
       const std::wstring around = L"x" + text + L"+1";
-      ASSERT_EQ(Bits(zeb::ReadNumberAt(around, 1, mark, length)), Bits(expected));
+      ASSERT_EQ(Bits(zeb::ReadNumberAt(around, 1, length)), Bits(expected));
       ASSERT_EQ(length, text.size());
     }
   }
 }
 
 TEST(FormulaShortcut, ReadsWholeNumbersOfAnyLength) {
-  zeb::DecimalMark mark;
   std::wstring text;
   for (int digits = 1; digits < 40; ++digits) {
     text += static_cast<wchar_t>(L'0' + digits * 7 % 10);
@@ -119,7 +117,7 @@ TEST(FormulaShortcut, ReadsWholeNumbersOfAnyLength) {
     ASSERT_EQ(std::swscanf(text.c_str(), L"%lf", &expected), 1);
     for (const wchar_t* const behind : {L"", L"+", L".", L",0", L" 1"}) {
       std::size_t length = 0;
-      EXPECT_EQ(zeb::ReadNumberAt(text + behind, 0, mark, length), expected);
+      EXPECT_EQ(zeb::ReadNumberAt(text + behind, 0, length), expected);
       EXPECT_EQ(length, zeb::FindNumber(text + behind, 0));
     }
   }
