@@ -25,8 +25,8 @@ constexpr std::array<std::uint8_t, 128> MakeCharacterClasses() {
   for (std::size_t c = 'a'; c <= 'z'; ++c) classes[c] = kLetter;
   for (std::size_t c = 'A'; c <= 'Z'; ++c) classes[c] = kLetter;
   for (std::size_t c = '0'; c <= '9'; ++c) classes[c] = kDigit;
-  for (const char c : {' ', '\t', '\n', '\v', '\f', '\r'}) classes[static_cast<std::size_t>(c)] = kBlank;
-  for (const char c : {'{', '}', '\''}) classes[static_cast<std::size_t>(c)] = kCommentMark;
+  for (const char c : {' ', '\t', '\n', '\v', '\f', '\r'}) classes[static_cast<unsigned char>(c)] = kBlank;
+  for (const char c : {'{', '}', '\''}) classes[static_cast<unsigned char>(c)] = kCommentMark;
   return classes;
 }
 
@@ -37,7 +37,7 @@ constexpr int ClassifiableCharacter(wchar_t c) { return c >= 0 && c <= 255 ? sta
 
 constexpr bool IsAscii(wchar_t c) { return c >= 0 && c < 128; }
 
-inline std::uint8_t AsciiClass(wchar_t c) { return kCharacterClasses[static_cast<std::size_t>(c)]; }
+inline std::uint8_t AsciiClass(wchar_t c) { return kCharacterClasses[static_cast<char32_t>(c)]; }
 
 inline bool IsLetter(wchar_t c) {
   if (IsAscii(c)) return AsciiClass(c) == kLetter;

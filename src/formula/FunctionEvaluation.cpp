@@ -16,16 +16,16 @@ namespace {
 constexpr std::size_t kLongestName = 7;
 constexpr std::size_t kSlots = 64;
 
-constexpr wchar_t Folded(wchar_t c) {
-  return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c;
+constexpr std::size_t Folded(wchar_t c) {
+  return static_cast<char32_t>(c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c);
 }
 
 /// Slot of a name of 1 to kLongestName characters: first, middle and last character and the length tell all
 /// names apart.
 constexpr std::size_t SlotOf(std::wstring_view name) {
-  const auto first = static_cast<std::size_t>(Folded(name.front()));
-  const auto middle = static_cast<std::size_t>(Folded(name[name.size() / 2]));
-  const auto last = static_cast<std::size_t>(Folded(name.back()));
+  const std::size_t first = Folded(name.front());
+  const std::size_t middle = Folded(name[name.size() / 2]);
+  const std::size_t last = Folded(name.back());
   return (first * 11 + middle + last * 11 + name.size()) % kSlots;
 }
 

@@ -76,7 +76,7 @@ void CReplaceVariableFormulaParser::SetIgnoreGrossKlein(bool ignoreGrossKlein) {
 void CReplaceVariableFormulaParser::AddReplace(std::wstring alt, std::wstring neu) {
   if (GetIgnoreGrossKlein()) alt = zeb::UpperCase(alt);
   StripQuote(alt);
-  m_Replace.try_emplace(std::move(alt), std::move(neu));
+  m_Replace.emplace(std::move(alt), std::move(neu));
 }
 
 void CReplaceVariableFormulaParser::AddWildcard(const wchar_t* wildcard) {

@@ -77,7 +77,7 @@ void CVariableFormulaParser::AddVariable(std::wstring name, double wert) {
 
 void CVariableFormulaParser::AddStringVariable(std::wstring name, std::wstring wert) {
   if (m_IgnoreGrossKlein) name = zeb::UpperCase(name);
-  m_pStringVariablen->try_emplace(std::move(name), std::move(wert));
+  m_pStringVariablen->emplace(std::move(name), std::move(wert));
 }
 
 void CVariableFormulaParser::EnableQuotedVariable(bool enable) { m_QuotedVariable = enable; }
@@ -130,6 +130,7 @@ void CVariableFormulaParser::StripQuote(std::wstring& text) const {
 
 bool CVariableFormulaParser::GetScanVariable() { return m_ScanVariable; }
 
+// NOLINTBEGIN(performance-unnecessary-value-param): the signatures are fixed.
 bool CVariableFormulaParser::LookupVariable(std::wstring name, double& wert) const {
   return FindVariable(name, wert);
 }
@@ -137,6 +138,7 @@ bool CVariableFormulaParser::LookupVariable(std::wstring name, double& wert) con
 bool CVariableFormulaParser::LookupStringVariable(std::wstring name, std::wstring& wert) const {
   return FindStringVariable(name, wert);
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 void CVariableFormulaParser::AddGescannteVariable(std::wstring name) {
   StripQuote(name);

@@ -20,7 +20,6 @@
 #include <type_traits>
 
 using formulatest::ExpectError;
-using formulatest::Run;
 using testing::ElementsAre;
 
 namespace {

@@ -96,9 +96,14 @@ TEST(FormulaShortcut, ReadsNumbersAsTheStandardLibraryDoes) {
         decimals += static_cast<wchar_t>(L'0' + random() % 10);
       if (whole.empty() && decimals.empty()) continue;
       double expected = 0.0;
-      ASSERT_EQ(std::swscanf((whole + point + decimals).c_str(), L"%lf", &expected), 1);
+      std::wstring inLocale = whole;
+      inLocale += point;
+      inLocale += decimals;
+      ASSERT_EQ(std::swscanf(inLocale.c_str(), L"%lf", &expected), 1);
       expected = RundeDouble(expected, 14, 1, true);
-      const std::wstring text = whole + (random() % 2 == 0 ? L'.' : L',') + decimals;
+      std::wstring text = whole;
+      text += random() % 2 == 0 ? L'.' : L',';
+      text += decimals;
       ASSERT_EQ(Bits(zeb::ReadNumber(text)), Bits(expected)) << std::string(text.begin(), text.end());
       if (whole.empty()) continue;
       std::size_t length = 0;
