@@ -192,10 +192,10 @@ TEST(ReportDocument, WritesAllOfItsElement) {
       << file;
 }
 
-TEST(ReportDocument, FixedLoadingDoesNotEmptyTheLists) {
+TEST(ReportDocument, ZoneThatIsNamedTwiceIsOwnedOnce) {
   LoadedReport report;
   report.LoadReportText(
       DocumentFile("<VersionNr>2</VersionNr><ReportDocumentID>0</ReportDocumentID><ZoneID>1</ZoneID>"
                    "<ZoneID>1</ZoneID><ZoneID>2</ZoneID>"));
-  EXPECT_EQ(report.Document().GetReportZoneCount(), 2) << "a zone is owned once";
+  EXPECT_EQ(report.Document().GetReportZoneCount(), 2);
 }

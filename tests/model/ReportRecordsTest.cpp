@@ -79,10 +79,9 @@ TEST(ReportRecords, OldDistancesAreUpgradedButForCopiedFields) {
 
 TEST(ReportRecords, FixedCopiedFieldsAreNotUpgraded) {
   LoadedReport report;
-  report.LoadReportText(ReportOfOneZone("<CopyVHID>7</CopyVHID>",
-                                        Outer("CopyValueHolder", 7, "<PlID>7</PlID>" + kOldDistances), 1));
-  const CBorder* border = report.Zone(0).GetValueHolderAt(0)->GetBorder();
-  EXPECT_TRUE(border == nullptr || border->GetBaseLineToUpperDistance() == 0.0F);
+  report.LoadReportText(
+      ReportOfOneZone("<CopyVHID>7</CopyVHID>", Outer("CopyValueHolder", 7, kOldDistances), 1));
+  ExpectUpgraded(*report.Zone(0).GetValueHolderAt(0), false);
 }
 
 TEST(ReportRecords, DistancesOfTheCurrentVersionStay) {

@@ -410,15 +410,22 @@ TEST(ReportZone, FixedFillingTheListsFromCellsTakesCopiedFieldsToo) {
 TEST(ReportZone, FixedLoadingTwiceDoublesAllListsButTwo) {
   LoadedReport report;
   const std::string record =
-      "<ReportZone><ZoneID>1</ZoneID><InternalName>Second</InternalName><TxID>20</TxID>"
+      "<ReportZone><ZoneID>1</ZoneID><InternalName>Second</InternalName><TxID>20</TxID><VHID>21</VHID>"
+      "<PicID>22</PicID><RectID>23</RectID><LineID>24</LineID><TableCellID>25</TableCellID>"
       "<KeepTogetherZoneID>K2</KeepTogetherZoneID></ReportZone>";
   report.LoadReportText(
-      ReportOfOneZone("<TxID>2</TxID><KeepTogetherZoneID>K1</KeepTogetherZoneID>"
+      ReportOfOneZone("<TxID>2</TxID><VHID>3</VHID><PicID>4</PicID><RectID>5</RectID><LineID>6</LineID>"
+                      "<TableCellID>7</TableCellID><KeepTogetherZoneID>K1</KeepTogetherZoneID>"
                       "<KeepTogetherZoneID>K1b</KeepTogetherZoneID>",
                       record));
   CReportZone& zone = report.Zone(0);
   EXPECT_STREQ(zone.GetInternalReportZoneName(), L"Second");
   EXPECT_EQ(zone.GetTextElementCount(), 2);
+  EXPECT_EQ(zone.GetValueHolderCount(), 2);
+  EXPECT_EQ(zone.GetPictureElementCount(), 2);
+  EXPECT_EQ(zone.GetRectangleElementCount(), 2);
+  EXPECT_EQ(zone.GetLineElementCount(), 2);
+  EXPECT_EQ(zone.GetTableCellCount(), 2);
   ASSERT_EQ(zone.GetZonesKeepTogetherCount(), 1);
   EXPECT_STREQ(zone.GetZonesKeepTogetherAt(0), L"K2");
 }
