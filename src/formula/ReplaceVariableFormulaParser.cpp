@@ -96,7 +96,13 @@ bool CReplaceVariableFormulaParser::Replace(bool stripQuotes, bool quoteIfNeeded
   m_bQuoteIfNeeded = quoteIfNeeded;
   m_bUnquoteIfPossible = unquoteIfPossible;
   std::wstring before = m_Ausdruck;
-  const bool good = WerteAus(false);
+  bool good = false;
+  try {
+    good = WerteAus(false);
+  } catch (...) {
+    m_Ausdruck = std::move(before);
+    throw;
+  }
   if (!good) m_Ausdruck = std::move(before);
   return good;
 }

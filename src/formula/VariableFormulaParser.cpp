@@ -85,11 +85,17 @@ void CVariableFormulaParser::EnableQuotedVariable(bool enable) { m_QuotedVariabl
 bool CVariableFormulaParser::IsQuotedVariableEnabled() const { return m_QuotedVariable; }
 
 bool CVariableFormulaParser::ScanVariable() {
-  m_ScanVariable = true;
+  // The parser computes again behind the scan, also where an exception of another family passes through.
+  struct Scan {
+    explicit Scan(bool& scanning) : m_bScanning(scanning) { m_bScanning = true; }
+    ~Scan() { m_bScanning = false; }
+    Scan(const Scan&) = delete;
+    Scan& operator=(const Scan&) = delete;
+    bool& m_bScanning;
+  };
+  const Scan scan(m_ScanVariable);
   m_GescannteVariablen.clear();
-  const bool good = WerteAus(false);
-  m_ScanVariable = false;
-  return good;
+  return WerteAus(false);
 }
 
 const std::vector<std::wstring>& CVariableFormulaParser::GetVariable() const { return m_GescannteVariablen; }

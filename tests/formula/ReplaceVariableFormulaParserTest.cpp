@@ -4,6 +4,7 @@
 #include "formula/OpenParser.h"
 #include "formula/ReplaceOperations.h"
 #include "formula/StringOperations.h"
+#include "formula/TransparentOperation.h"
 #include "formula/VariableOperation.h"
 #include "formula/ZahlOperation.h"
 #include "foundation/KXException.h"
@@ -348,4 +349,25 @@ TEST(ReplaceVariableFormulaParser, EvaluatesNothingOfWhatItReads) {
   EXPECT_TRUE(parser.WerteAus(true));
   EXPECT_EQ(parser.GetWert(), 1.0);
   EXPECT_STREQ(parser.GetAusdruck(), L"b + 1");
+}
+
+TEST(ReplaceVariableFormulaParser, LeavesTheTextAsItWasIfAnExceptionEndsTheRun) {
+  class FailingInBrackets : public formulatest::TransparentOperation {
+   public:
+    double Eval(int& pos, CFormulaParser* parser) override {
+      if (++m_iCalls == 2) throw CKXFileException(1, L"");
+      return TransparentOperation::Eval(pos, parser);
+    }
+
+   private:
+    int m_iCalls = 0;
+  };
+  FailingInBrackets failing;
+  OpenReplaceParser parser;
+  parser = L"a+(b)";
+  parser.AddReplace(L"a", L"longer");
+  parser.InsertOperationBefore(&failing, parser.GetFirstOperation());
+  EXPECT_THROW(parser.Replace(false, false, false), CKXFileException);
+  EXPECT_STREQ(parser.GetAusdruck(), L"a+(b)");
+  parser.DeleteOperation(&failing);
 }

@@ -5,8 +5,10 @@
 #include "formula/OpenParser.h"
 #include "formula/PrefixOperations.h"
 #include "formula/StringOperations.h"
+#include "formula/TransparentOperation.h"
 #include "formula/VariableOperation.h"
 #include "formula/ZahlOperation.h"
+#include "foundation/KXException.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -388,4 +390,19 @@ TEST(VariableFormulaParser, ReusedParserGivesWhatAFreshOneGives) {
     EXPECT_TRUE(parser.ScanVariable());
     ExpectValue(parser, 6.0);
   }
+}
+
+TEST(VariableFormulaParser, ComputesAgainAfterAScanThatAnExceptionEnded) {
+  class Failing : public formulatest::TransparentOperation {
+   public:
+    double Eval(int& /*pos*/, CFormulaParser* /*parser*/) override { throw CKXFileException(1, L""); }
+  };
+  Failing failing;
+  OpenVariableParser parser;
+  parser = L"a";
+  parser.InsertOperationBefore(&failing, parser.GetFirstOperation());
+  EXPECT_THROW(parser.ScanVariable(), CKXFileException);
+  EXPECT_FALSE(parser.GetScanVariable());
+  parser.DeleteOperation(&failing);
+  ExpectError(parser, L"VariableNotFound", 0);
 }
