@@ -74,3 +74,8 @@
 #include "reporttypes/ReportDescriptions.h"
 #include "reporttypes/ReportType.h"
 #include "reporttypes/ReportTypeZone.h"
+#include "rtf/ContextChangedHandler.h"
+#include "rtf/PictureConvertHandler.h"
+#include "rtf/RTFContext.h"
+#include "rtf/RTFProperties.h"
+#include "rtf/RTFTableRow.h"
