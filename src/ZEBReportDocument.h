@@ -9,6 +9,8 @@
 #include "fonts/FontCharMetricsInfo.h"
 #include "fonts/FontData.h"
 #include "fonts/FontMetrics.h"
+#include "fonts/FontPool.h"
+#include "fonts/FontPoolEntry.h"
 #include "fonts/Fonts.h"
 #include "fonts/GlobalFontHandler.h"
 #include "fonts/PDFCharCollName.h"

@@ -11,6 +11,15 @@
 // whatever can block on a pipe or read without end from a device.
 namespace zeb {
 
+/// What this system puts between a folder and a name in it.
+extern const wchar_t kPathSeparator;
+
+/// Whether a character parts folders: both separators do, on every system.
+inline bool IsPathSeparator(wchar_t character) { return character == L'/' || character == L'\\'; }
+
+/// Whether the name of a file may hold a character on this system. A separator never may.
+bool IsFileNameCharacter(wchar_t character);
+
 /// How an operation on a file ended.
 enum class FileStatus {
   Ok,

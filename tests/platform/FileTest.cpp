@@ -54,6 +54,21 @@ mode_t ModeOf(const fs::path& path) {
   return info.st_mode & 07777;
 }
 
+TEST(FileNames, AreJoinedWithASlash) { EXPECT_EQ(zeb::kPathSeparator, L'/'); }
+
+TEST(FileNames, BothSeparatorsPartFolders) {
+  EXPECT_TRUE(zeb::IsPathSeparator(L'/'));
+  EXPECT_TRUE(zeb::IsPathSeparator(L'\\'));
+  EXPECT_FALSE(zeb::IsPathSeparator(L':'));
+}
+
+TEST(FileNames, HoldAllButSeparatorsAndNul) {
+  for (const wchar_t character : {L'/', L'\\', L'\0'}) EXPECT_FALSE(zeb::IsFileNameCharacter(character));
+  for (const wchar_t character : {L'a', L'.', L' ', L':', L'\x1', L'\xE4', L'\xFFFD'}) {
+    EXPECT_TRUE(zeb::IsFileNameCharacter(character));
+  }
+}
+
 TEST(ReadWholeFile, GivesAllBytes) {
   const TempDir folder;
   std::vector<std::byte> content;

@@ -79,6 +79,10 @@ FileStatus FollowLinks(std::string& path) {
 
 }  // namespace
 
+const wchar_t kPathSeparator = L'/';
+
+bool IsFileNameCharacter(wchar_t character) { return character != L'\0' && !IsPathSeparator(character); }
+
 InputFile::~InputFile() { Close(); }
 
 void InputFile::Close() {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace zeb {
@@ -77,6 +78,14 @@ std::wstring FollowLinks(const std::wstring& path, DWORD attributes) {
 }
 
 }  // namespace
+
+const wchar_t kPathSeparator = L'\\';
+
+bool IsFileNameCharacter(wchar_t character) {
+  constexpr std::wstring_view kForbidden = L"<>:\"|?*";
+  return character >= L' ' && !IsPathSeparator(character) &&
+         kForbidden.find(character) == std::wstring_view::npos;
+}
 
 InputFile::~InputFile() { Close(); }
 
