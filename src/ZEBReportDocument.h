@@ -8,6 +8,7 @@
 #include "fonts/Encodings.h"
 #include "fonts/FontCharMetricsInfo.h"
 #include "fonts/FontData.h"
+#include "fonts/FontInformation.h"
 #include "fonts/FontMetrics.h"
 #include "fonts/FontPool.h"
 #include "fonts/FontPoolEntry.h"

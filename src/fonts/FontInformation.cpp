@@ -1,0 +1,25 @@
+#include "fonts/FontInformation.h"
+
+#include "fonts/PostscriptFontMetrics.h"
+#include "fonts/TrueTypeFontMetrics.h"
+
+CFontInformation::CFontInformation(CFonts* owner)
+    : m_pMetrics(nullptr), m_pPostscriptMetrics(nullptr), m_pTrueTypeMetrics(nullptr), m_pOwner(owner) {
+  m_pMetrics = &PostscriptMetrics();
+}
+
+CFontInformation::CFontInformation(const CFontInformation& other) = default;
+
+CFontInformation::~CFontInformation() {
+  delete m_pPostscriptMetrics;
+  delete static_cast<CFontMetrics*>(m_pTrueTypeMetrics);
+}
+
+CFontInformation& CFontInformation::operator=(const CFontInformation& other) = default;
+
+CFontMetrics* CFontInformation::GetFontMetrics() const { return m_pMetrics; }
+
+CPostscriptFontMetrics& CFontInformation::PostscriptMetrics() {
+  if (m_pPostscriptMetrics == nullptr) m_pPostscriptMetrics = new CPostscriptFontMetrics();
+  return *m_pPostscriptMetrics;
+}

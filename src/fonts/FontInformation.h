@@ -1,0 +1,91 @@
+#pragma once
+
+#include "fonts/FontMetrics.h"
+#include "platform/Export.h"
+
+class CEncodingInformation;
+class CFonts;
+class CIDManager;
+class CPDFCharCollName;
+class CPostscriptFontMetrics;
+class CTrueTypeFontMetrics;
+
+namespace zebxmln {
+class CXMLNode;
+}
+
+/// One entry of the font list: the metrics of a font with their readers of font files, and with their record in
+/// report and layout files. The font program is not in those files but in the font pool.
+///
+/// The object owns its PostScript and its TrueType metrics; one of the two is current.
+class ZEB_EXPORT CFontInformation {
+ public:
+  /// Makes PostScript metrics and makes them current.
+  /// @param owner the list that the font belongs to or is meant for; may be null if nothing is asked of it
+  explicit CFontInformation(CFonts* owner);
+  /// Copies the four pointers: the copy shares its metrics with the source, and only one of the two may be destroyed.
+  CFontInformation(const CFontInformation& other);
+  /// Frees the metrics of both kinds.
+  virtual ~CFontInformation();
+  /// Reads a record `FontInformation`. A font program that the record does not hold comes from the font pool; that
+  /// of a TrueType font, failing that, from the operating system.
+  /// Errors: "FontPoolIncomplete" with the font's name if a TrueType font has no program anywhere; those of ReadTT.
+  /// @return true
+  virtual bool Load(zebxmln::CXMLNode* node, CIDManager& ids);
+  /// Adds a record `FontInformation` to the node and hands the font program to the font pool. A base-14 or CJK font
+  /// writes nothing.
+  /// @return true
+  virtual bool Save(zebxmln::CXMLNode* node, CIDManager& ids);
+  /// As the copy constructor. What this object held is not freed.
+  CFontInformation& operator=(const CFontInformation& other);
+
+  /// The current metrics; the object keeps them. A reader of the other kind of font may replace them.
+  CFontMetrics* GetFontMetrics() const;
+
+  /// The names of a character collection, from the encodings of the owner's handler; null if there are none.
+  CPDFCharCollName* GetCharCollNameAt(CFontMetrics::CharColl collection) const;
+  /// The encoding of this internal name, from the encodings of the owner's handler; null if there is none.
+  CEncodingInformation* GetEncodingInformation(const wchar_t* internalName) const;
+
+  /// Fills the PostScript metrics from an Adobe Font Metrics file and makes them current; they are made if there are
+  /// none. A refused file may leave them partly filled.
+  ///
+  /// The records of characters are nobody's: the caller frees them when it is done with the metrics.
+  ///
+  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "WrongGlobalIndentifier" for a word that the reader
+  /// does not know; "TooManyCharacterCodes" for more characters than announced; "NoCharMetrics".
+  void ReadAFM(const wchar_t* path);
+  /// Fills the PostScript metrics from a Windows PFM file and makes them current; they are made if there are none.
+  /// A refused file may leave them partly filled.
+  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "IncorrectPFMFile".
+  void ReadPFM(const wchar_t* path);
+  /// Reads the font program of a PostScript font from a PFB or PFA file and makes the PostScript metrics current;
+  /// they are made if there are none. The metrics themselves stay as they are: read them first.
+  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "IncorrectPFAPFBFile".
+  void ReadPFBPFA(const wchar_t* path);
+  /// Fills the TrueType metrics from a font and makes them current; they are made if there are none. PostScript
+  /// metrics are freed.
+  ///
+  /// Errors: "WrongParameter", "ReadFileFailure", "TrueTypeCreationFailed", "NoMoreMemoryLeft",
+  /// "IncorrectTrueTypeFile", "BitmapMACFontUnsupported", "FontEmbeddingNotAllowed", "UnknownException".
+  /// @param faceName name of an installed font, at most 32 characters; null if the font comes from elsewhere
+  /// @param filePath path of a font file; null if the font comes from elsewhere
+  /// @param encoding null, "1250", or anything else for WinAnsi
+  /// @param unicode whether the font is used with two-byte glyph codes and embedded as a subset
+  /// @param reuseData whether the font data is in the metrics already and only has to be parsed
+  /// @param bold the wanted weight, 400 normal
+  /// @param italic whether italic is wanted
+  void ReadTT(const wchar_t* faceName, const wchar_t* filePath, const wchar_t* encoding, bool unicode,
+              bool reuseData, int bold, bool italic);
+
+ private:
+  /// The PostScript metrics, made if there are none.
+  CPostscriptFontMetrics& PostscriptMetrics();
+  /// The TrueType metrics, made if there are none, which become current; PostScript metrics are freed.
+  CTrueTypeFontMetrics& UseTrueTypeMetrics();
+
+  CFontMetrics* m_pMetrics;                      // observer; one of the next two
+  CPostscriptFontMetrics* m_pPostscriptMetrics;  // owned, shared by copies
+  CTrueTypeFontMetrics* m_pTrueTypeMetrics;      // owned, shared by copies
+  CFonts* m_pOwner;                              // observer
+};
