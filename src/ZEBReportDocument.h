@@ -77,6 +77,7 @@
 #include "reporttypes/ReportDescriptions.h"
 #include "reporttypes/ReportType.h"
 #include "reporttypes/ReportTypeZone.h"
+#include "reporttypes/ReportValueHolders.h"
 #include "rtf/ContextChangedHandler.h"
 #include "rtf/PictureConvertHandler.h"
 #include "rtf/RTFColor.h"
