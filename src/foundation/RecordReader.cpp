@@ -1,5 +1,6 @@
 #include "foundation/RecordReader.h"
 
+#include "foundation/ReadingTrace.h"
 #include "foundation/ValueConversion.h"
 #include "foundation/XMLTree.h"
 
@@ -20,40 +21,68 @@ bool ReadNumber(CXMLNode* element, Value (*convert)(const wchar_t*), Value& valu
   return true;
 }
 
+RecordWalk* BeginWalk(const CXMLNode& record) {
+  ReadingTrace* trace = ReadingTrace::Active();
+  return trace == nullptr ? nullptr : trace->BeginWalk(record);
+}
+
 }  // namespace
 
-RecordReader::RecordReader(CXMLNode* record) : m_ppCursor(record->GetChildNodes()) {}
+RecordReader::RecordReader(CXMLNode* record)
+    : m_ppCursor(record->GetChildNodes()), m_pWalk(BeginWalk(*record)) {}
 
 bool RecordReader::AtEnd() const { return *m_ppCursor == nullptr; }
 
 bool RecordReader::Is(ElementName name) const {
-  return !AtEnd() && XMLTree::NameOf(**m_ppCursor).Wide == name;
+  const bool isThere = !AtEnd() && XMLTree::NameOf(**m_ppCursor).Wide == name;
+  if (m_pWalk != nullptr) m_pWalk->Ask(name, m_ppCursor, isThere);
+  return isThere;
+}
+
+bool RecordReader::Requires(ElementName name) const {
+  const bool isThere = Is(name);
+  if (m_pWalk != nullptr && !isThere) m_pWalk->Miss(name, m_ppCursor);
+  return isThere;
 }
 
 CXMLNode* RecordReader::Current() const { return *m_ppCursor; }
 
 void RecordReader::Next() {
-  if (!AtEnd()) ++m_ppCursor;
+  if (AtEnd()) return;
+  if (m_pWalk != nullptr) m_pWalk->Pass(m_ppCursor);
+  ++m_ppCursor;
 }
 
-CXMLNode* RecordReader::Take(ElementName name) { return Is(name) ? *m_ppCursor++ : nullptr; }
+CXMLNode* RecordReader::Take(ElementName name) {
+  if (!Is(name)) return nullptr;
+  if (m_pWalk != nullptr) m_pWalk->Take(name, **m_ppCursor);
+  return *m_ppCursor++;
+}
+
+CXMLNode* RecordReader::TakeText(ElementName name) {
+  CXMLNode* element = Take(name);
+  if (m_pWalk != nullptr && element != nullptr) ReadingTrace::Active()->NoteText(*element);
+  return element;
+}
 
 void RecordReader::StepOver(ElementName name) { Take(name); }
 
 bool RecordReader::Read(ElementName name, std::wstring& value) {
-  const CXMLNode* element = Take(name);
+  const CXMLNode* element = TakeText(name);
   if (element != nullptr) XMLTree::CopyText(*element, value);
   return element != nullptr;
 }
 
-bool RecordReader::Read(ElementName name, int& value) { return ReadNumber(Take(name), &StringToInt, value); }
+bool RecordReader::Read(ElementName name, int& value) {
+  return ReadNumber(TakeText(name), &StringToInt, value);
+}
 
 bool RecordReader::Read(ElementName name, float& value) {
-  return ReadNumber(Take(name), &StringToFloat, value);
+  return ReadNumber(TakeText(name), &StringToFloat, value);
 }
 
 bool RecordReader::Read(ElementName name, bool& value) {
-  return ReadNumber(Take(name), &StringToBool, value);
+  return ReadNumber(TakeText(name), &StringToBool, value);
 }
 
 }  // namespace zeb

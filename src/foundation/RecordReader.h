@@ -9,6 +9,8 @@ class CXMLNode;
 
 namespace zeb {
 
+class RecordWalk;
+
 /// Name of an element. Made from a literal, so that `data()` is terminated.
 using ElementName = std::wstring_view;
 
@@ -24,6 +26,8 @@ class RecordReader {
   bool AtEnd() const;
   /// Whether the element at the cursor has the name.
   bool Is(ElementName name) const;
+  /// As Is, for an element without which nothing more of the record is read.
+  bool Requires(ElementName name) const;
   /// The element at the cursor, null at the end.
   zebxmln::CXMLNode* Current() const;
   /// Moves on by one, whatever stands there; nothing at the end.
@@ -41,7 +45,11 @@ class RecordReader {
   bool Read(ElementName name, bool& value);
 
  private:
+  /// Take, for an element that is read as a text.
+  zebxmln::CXMLNode* TakeText(ElementName name);
+
   zebxmln::CXMLNode** m_ppCursor;  // observer
+  RecordWalk* m_pWalk;             // observer: null unless somebody listens to the reading
 };
 
 }  // namespace zeb

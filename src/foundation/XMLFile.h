@@ -21,7 +21,7 @@ class XMLFile {
 
  private:
   struct Destroy {
-    void operator()(zebxmln::CXMLDocument* document) const { document->DestroyDocument(); }
+    void operator()(zebxmln::CXMLDocument* document) const;
   };
 
   explicit XMLFile(zebxmln::CXMLDocument* document) : m_pDocument(document) {}

@@ -1,16 +1,23 @@
 #include "foundation/XMLNode.h"
 
+#include "foundation/ReadingTrace.h"
 #include "foundation/XMLTree.h"
 
 #include <string_view>
 
 namespace zebxmln {
 
+using zeb::ReadingTrace;
 using zeb::XMLTree;
 
 namespace {
 
 std::wstring_view TextOrEmpty(const wchar_t* text) { return text == nullptr ? std::wstring_view() : text; }
+
+/// Tells who listens to the reading that somebody looks into the element.
+void NoteLook(const CXMLNode& element) {
+  if (ReadingTrace* trace = ReadingTrace::Active()) trace->NoteLook(element);
+}
 
 }  // namespace
 
@@ -20,9 +27,12 @@ CXMLNode::~CXMLNode() = default;
 
 const wchar_t* CXMLNode::GetNodeName() { return XMLTree::NameOf(*this).Wide.data(); }
 
-CXMLNode** CXMLNode::GetChildNodes() { return XMLTree::ChildrenOf(*this); }
+CXMLNode** CXMLNode::GetChildNodes() {
+  NoteLook(*this);
+  return XMLTree::ChildrenOf(*this);
+}
 
-CXMLNode* CXMLNode::GetFirstChildNode() { return *XMLTree::ChildrenOf(*this); }
+CXMLNode* CXMLNode::GetFirstChildNode() { return *GetChildNodes(); }
 
 CXMLNode* CXMLNode::AddChildNode(const wchar_t* name, int) {
   CXMLNode* child = XMLTree::Of(*this).MakeNode(name);
@@ -39,7 +49,10 @@ void CXMLNode::SetNodeAttribute(const wchar_t* name, const wchar_t* value) {
   XMLTree::SetAttribute(*this, TextOrEmpty(name), TextOrEmpty(value));
 }
 
-const wchar_t* CXMLNode::GetNodeText() { return XMLTree::WideTextOf(*this); }
+const wchar_t* CXMLNode::GetNodeText() {
+  if (ReadingTrace* trace = ReadingTrace::Active()) trace->NoteText(*this);
+  return XMLTree::WideTextOf(*this);
+}
 
 void CXMLNode::SetNodeText(const wchar_t* text) { XMLTree::SetText(*this, TextOrEmpty(text)); }
 
@@ -47,6 +60,9 @@ CXMLBinNode::CXMLBinNode() = default;
 
 void CXMLBinNode::SetBinaryData(const void* data, int length) { XMLTree::SetBinary(*this, data, length); }
 
-void CXMLBinNode::GetBinaryData(void** data, int* length) { XMLTree::GetBinary(*this, data, length); }
+void CXMLBinNode::GetBinaryData(void** data, int* length) {
+  NoteLook(*this);
+  XMLTree::GetBinary(*this, data, length);
+}
 
 }  // namespace zebxmln

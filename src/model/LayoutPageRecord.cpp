@@ -56,7 +56,11 @@ void ReadRelations(zeb::RecordReader& reader, CIDManager& ids, CPlaceable* paper
   while (zebxmln::CXMLNode* record = reader.Take(kPlRel)) {
     const auto id = zeb::ReadRecordIdentifier(record, zeb::IdentifierPlace::FirstChild, kPlRelID);
     auto* relation = id ? zeb::FindObject<CPlaceableRelation>(binding, *id) : nullptr;
-    if (relation == nullptr) continue;
+    if (relation == nullptr) {
+      if (zeb::ReadingTrace* trace = zeb::ReadingTrace::Active())
+        trace->NoteRefusedRecord(*record, kPlRelID, id);
+      continue;
+    }
     relation->Load(record, ids);
     if (relation->GetRelationObject() == nullptr) relation->SetRelationObject(paper);
   }

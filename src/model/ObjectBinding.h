@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/IDBinding.h"
+#include "foundation/ReadingTrace.h"
 #include "model/Placeable.h"
 
 #include <memory>
@@ -70,11 +71,32 @@ T* FindExactObject(const IDBinding& binding, int id) {
   return typeid(*object) == typeid(T) ? object : nullptr;
 }
 
+/// Binds the identifier that a record has for its own.
+template <class T>
+void BindRecord(IDBinding& binding, int id, T* object) {
+  BindObject(binding, id, object);
+  if (ReadingTrace* trace = ReadingTrace::Active()) trace->NoteRecord(id);
+}
+
+/// Tells who listens to the reading that the element which was read last names no known object of its class. A relation
+/// needs no record: files are saved with ties that have none.
+template <class T>
+void NoteUnknown(const IDBinding& binding, int id) {
+  ReadingTrace* trace = ReadingTrace::Active();
+  if (trace == nullptr) return;
+  if (binding.IsBound(id)) {
+    trace->NoteWrongReference(id);
+  } else if (!std::is_same_v<T, CPlaceableRelation>) {
+    trace->NoteReference(id);
+  }
+}
+
 /// The object for a reference in a list: the known one, or a new one. A new one is bound to the identifier unless that
 /// names an object of another class.
 template <class T>
 T* FindOrMakeObject(IDBinding& binding, int id) {
   if (T* known = FindExactObject<T>(binding, id)) return known;
+  NoteUnknown<T>(binding, id);
   auto made = std::make_unique<T>();
   BindObject(binding, id, made.get());
   return made.release();
@@ -85,7 +107,9 @@ T* FindOrMakeObject(IDBinding& binding, int id) {
 template <class T>
 T* TakeObject(IDBinding& binding, int id) {
   T* object = FindOrMakeObject<T>(binding, id);
-  return binding.Own(object) ? object : nullptr;
+  if (binding.Own(object)) return object;
+  if (ReadingTrace* trace = ReadingTrace::Active()) trace->NoteSecondReference(id);
+  return nullptr;
 }
 
 }  // namespace zeb

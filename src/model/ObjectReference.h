@@ -14,7 +14,7 @@ void ReadOwnID(RecordReader& reader, ElementName name, CIDManager& idManager, T*
   int id = 0;
   if (!reader.Read(name, id)) return;
   IDBinding binding(idManager);
-  BindObject(binding, id, object);
+  BindRecord(binding, id, object);
 }
 
 /// Writes the identifier of an object.
@@ -33,7 +33,9 @@ void WriteID(RecordWriter& writer, ElementName name, CIDManager& idManager, T* o
 template <class T>
 T* ReferToObject(IDBinding& binding, int id) {
   static_assert(std::is_base_of_v<CPlaceable, T>);
-  if (binding.IsBound(id)) return FindObject<T>(binding, id);
+  if (T* known = FindObject<T>(binding, id)) return known;
+  NoteUnknown<T>(binding, id);
+  if (binding.IsBound(id)) return nullptr;
   auto made = std::make_unique<T>();
   BindObject(binding, id, made.get());
   binding.NoteNamedByRelation(static_cast<CPlaceable*>(made.get()), kPlaceableTag);

@@ -87,7 +87,7 @@ std::unique_ptr<CPlaceable> PageContentReader::ReadObject(const PageContentKind&
   std::unique_ptr<CPlaceable> object = kind.Make();
   IDBinding binding(m_IDs);
   if (const auto id = ReadRecordIdentifier(record, kind.Place, kind.Identifier)) {
-    BindObject(binding, *id, object.get());
+    BindRecord(binding, *id, object.get());
   }
   binding.Own(object.get());
   object->Load(record, m_IDs);

@@ -62,7 +62,11 @@ class RecordGroups {
   T* Load(const RecordName& name, zebxmln::CXMLNode* record) {
     const auto id = ReadRecordIdentifier(record, name.Place, name.Identifier);
     T* object = id ? FindExactObject<T>(m_Binding, *id) : nullptr;
-    if (object != nullptr) object->Load(record, m_IDs);
+    if (object != nullptr) {
+      object->Load(record, m_IDs);
+    } else if (ReadingTrace* trace = ReadingTrace::Active()) {
+      trace->NoteRefusedRecord(*record, name.Identifier, id);
+    }
     return object;
   }
 

@@ -89,7 +89,7 @@ void CReportRootElement::ReadLayoutFile(const wchar_t* layoutFile, CIDManager& i
   const zeb::XMLFile file = zeb::XMLFile::Load(layoutFile);
   zeb::RecordReader reader(file.Root());
   reader.StepOver(kVersionNr);
-  if (!reader.Is(kReportLayoutID)) return;
+  if (!reader.Requires(kReportLayoutID)) return;
   zeb::LayoutInReading layout;
   layout->Load(file.Root(), ids);
   SetReportLayout(layout.Release());

@@ -110,7 +110,7 @@ class zeb::ZoneReader {
 
   void Read() {
     int id = 0;
-    if (m_Reader.Read(kZoneID, id)) BindObject(m_Binding, id, &m_Zone);
+    if (m_Reader.Read(kZoneID, id)) BindRecord(m_Binding, id, &m_Zone);
     m_Reader.Read(kInternalName, m_Zone.m_strInternalReportZoneName);
     ReadElements();
     while (m_Reader.Read(kTableCellID, id)) ReadCell(id);
