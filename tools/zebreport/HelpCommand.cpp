@@ -16,8 +16,8 @@ int RunHelp(ArgumentReader& arguments, std::wstring& output) {
       L"folder.\n"
       L"Formulas are those of reports: names as in [x y], texts as in strcmp(Name; \"text\").\n"
       L"--catalogue FOLDER names the folder of the error catalogue, KXErrorMessages.xml.\n"
-      L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, 2 wrong "
-      L"usage.\n";
+      L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, or check "
+      L"found something, 2 wrong usage.\n";
   return 0;
 }
 

@@ -29,6 +29,14 @@ class LoadedReport {
   /// @throws Failure
   void LoadWithLayout(const std::filesystem::path& report, const std::optional<std::wstring>& layout);
 
+  /// Loads a report file, whatever it lacks.
+  /// @throws CKXException
+  void LoadReportFile(const std::wstring& file);
+
+  /// Loads a layout file, whatever it lacks.
+  /// @throws CKXException
+  void LoadLayoutFile(const std::wstring& file);
+
   CReportRootElement& Root() const { return *m_pRoot; }
 
   /// The lines that say which files were loaded.

@@ -1,0 +1,98 @@
+#include "FileCheck.h"
+
+#include "Failure.h"
+#include "LoadedReport.h"
+#include "ZEBReportDocument.h"
+#include "fonts/FontPool.h"
+#include "foundation/ReadingTrace.h"
+#include "foundation/XMLFile.h"
+
+#include <algorithm>
+#include <string_view>
+
+// This file knows how the readings of the library can be listened to, which is no part of its interface.
+
+namespace zebreport {
+
+namespace {
+
+/// A pool of a single file, apart from the pool of the process.
+class PoolOfFile : public CFontPool {
+ public:
+  void Read(const wchar_t* file) { ReadFontData(file); }
+};
+
+void LoadReportFile(const std::wstring& file) { LoadedReport().LoadReportFile(file); }
+
+void LoadLayoutFile(const std::wstring& file) { LoadedReport().LoadLayoutFile(file); }
+
+void LoadTypeFile(const std::wstring& file) { CReportType().LoadReportType(file.c_str()); }
+
+void LoadDescriptionFile(const std::wstring& file) {
+  CReportDescriptions().LoadReportDescriptions(file.c_str());
+}
+
+void LoadPoolFile(const std::wstring& file) { PoolOfFile().Read(file.c_str()); }
+
+void LoadCatalogue(const std::wstring& file) {
+  CKXExceptionHandler::GetInstance().ReadExceptions(file.c_str());
+}
+
+/// A kind of file: its root element, an element below the root that no other kind has, and how it is loaded.
+struct FileKind {
+  std::wstring_view Root;
+  std::wstring_view Child;
+  void (*Load)(const std::wstring& file);  // null if the library only writes it
+};
+
+constexpr FileKind kKinds[] = {
+    {L"ReportRootElement", L"ReportDocument", LoadReportFile},
+    {L"ReportLayout", L"ReportLayoutID", LoadLayoutFile},
+    {L"ReportTypeRootElement", L"ReportTypeZone", LoadTypeFile},
+    {L"ReportDescriptionRootElement", L"ReportDescription", LoadDescriptionFile},
+    {L"FontPoolData", L"FontData", LoadPoolFile},
+    {L"KXErrorMessages", L"ErrorFamily", LoadCatalogue},
+    {L"ValueHolderData", L"", nullptr},
+    {L"ProtocolData", L"", nullptr},
+};
+
+bool HasChild(zebxmln::CXMLNode& root, std::wstring_view name) {
+  for (zebxmln::CXMLNode** child = root.GetChildNodes(); *child != nullptr; ++child) {
+    if ((*child)->GetNodeName() == name) return true;
+  }
+  return false;
+}
+
+/// The kind that the root's name says. No loading asks for that name, so what is in a root of another name counts too.
+const FileKind& KindOf(const std::wstring& file) {
+  const zeb::XMLFile document = zeb::XMLFile::Load(file.c_str());
+  zebxmln::CXMLNode& root = *document.Root();
+  const std::wstring_view name = root.GetNodeName();
+  for (const FileKind& kind : kKinds) {
+    if (kind.Root == name) return kind;
+  }
+  for (const FileKind& kind : kKinds) {
+    if (!kind.Child.empty() && HasChild(root, kind.Child)) return kind;
+  }
+  throw Failure(file + L": its root element " + root.GetNodeName() +
+                L" is none of this system; name a report, layout, report type, description, font pool or "
+                L"error catalogue file.");
+}
+
+}  // namespace
+
+std::vector<zeb::ReadingFinding> CheckFile(const std::wstring& file) {
+  try {
+    const FileKind& kind = KindOf(file);
+    if (kind.Load == nullptr) return {};
+    const zeb::ReadingTrace trace;
+    kind.Load(file);
+    return trace.Findings();
+  } catch (const zebxmln::CXMLException& exception) {
+    throw LibraryFailure(file, CKXXMLException(exception.GetErrorCode(), exception.GetErrorMessage()));
+  } catch (const CKXException& exception) {
+    throw LibraryFailure(file, exception);
+  }
+}
+
+}  // namespace zebreport
