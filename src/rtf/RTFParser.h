@@ -397,8 +397,22 @@ class ZEB_EXPORT CRTFParser {
   void ParsePictureByte();
   void EndBookmarkStart();
   void EndBookmarkEnd();
+  void FillState(CRTFState& state);
+  void DescribeRow(IPROP prop, int value);
+  void NewRow();
+  void NewCell();
+  void FillCells();
+  void EndCell();
+  void EndRow();
+  void AlignCell(int align);
+  void SetBorderWidth(int width);
   /// Empties the table of `m_DocProps`.
   void FreeTableData();
+  void ReadPictureDigits(std::vector<unsigned char>& bytes);
+  /// Hands the picture to the caller for conversion.
+  /// @return whether the picture has been replaced
+  bool ConvertPicture(int format);
+  void FreePicture();
   void FreeOutput();
 
   unsigned char* m_pBegin;  // observer

@@ -1,11 +1,22 @@
 #pragma once
 
+#include "rtf/RTFState.h"
+#include "rtf/RTFTableRow.h"
+
+#include <memory>
+#include <vector>
+
 namespace zeb {
 
 /// What a CRTFParser owns and keeps beside the members that its interface shows. Freed with the parser.
 struct RTFStore {
   /// How many tables have been freed. A saved state of an earlier count has no table any more.
   int m_iFreedTables = 0;
+  /// All rows and cells of all tables. They outlive their tables, since records of handlers may still name them.
+  std::vector<std::unique_ptr<CRTFTableRow>> m_Rows;
+  std::vector<std::unique_ptr<CRTFTableCell>> m_Cells;
+  /// The state that goes with every run. It is kept from run to run, so that its list of rows need not be made anew.
+  CRTFState m_RunState;
 };
 
 }  // namespace zeb

@@ -1,0 +1,135 @@
+#include "rtf/ContextChangedHandler.h"
+#include "rtf/RTFContext.h"
+#include "rtf/RTFParser.h"
+#include "rtf/RTFState.h"
+#include "rtf/RTFStore.h"
+
+#include <algorithm>
+#include <utility>
+
+// The closing of runs: what goes to the handler, and when.
+
+namespace {
+
+constexpr unsigned char kLineFeed = 10;
+
+/// Makes `shown` equal to `rows`. Both only grow at their ends between two calls, or are cut there, so that the
+/// search for what they have in common ends at the first row from behind that is in its place.
+void ShowRows(std::vector<CRTFTableRow*>& shown, const std::vector<CRTFTableRow*>& rows) {
+  std::size_t common = std::min(shown.size(), rows.size());
+  while (common > 0 && shown[common - 1] != rows[common - 1]) --common;
+  shown.resize(common);
+  shown.insert(shown.end(), rows.begin() + static_cast<std::ptrdiff_t>(common), rows.end());
+}
+
+/// Copies all but the rows, which `to` keeps.
+void CopyWithoutRows(CDocumentProperties& from, CDocumentProperties& to) {
+  std::vector<CRTFTableRow*> fromRows = std::exchange(from.Rows, {});
+  std::vector<CRTFTableRow*> toRows = std::exchange(to.Rows, {});
+  to = from;
+  from.Rows = std::move(fromRows);
+  to.Rows = std::move(toRows);
+}
+
+/// The colour of characters goes before that of the paragraph, and both before that of the run.
+int ColorIndex(int ofCharacters, int ofParagraph, int ofRun) {
+  if (ofCharacters > 0) return ofCharacters;
+  return ofParagraph > 0 ? ofParagraph : ofRun;
+}
+
+}  // namespace
+
+bool CRTFParser::PropCanChangeContext(IPROP prop) {
+  switch (prop) {
+    case ipropBold:
+    case ipropItalic:
+    case ipropUnderline:
+    case ipropSuperscript:
+    case ipropSubscript:
+    case ipropNoSuperSub:
+    case ipropFontSize:
+    case ipropForeColorIndex:
+    case ipropBackColorIndex:
+      return true;
+    case ipropFontId:
+      return m_rds != rdsFontEntry;
+    case ipropStyle:
+      return m_rds != rdsStyleSheet;
+    default:
+      return false;
+  }
+}
+
+void CRTFParser::FillState(CRTFState& state) {
+  state.CharProps = m_CharProps;
+  state.ParProps = m_ParProps;
+  state.SecProps = m_SecProps;
+  state.FontProps = m_FontProps;
+  CopyWithoutRows(m_DocProps, state.DocProps);
+  ShowRows(state.DocProps.Rows, m_DocProps.Rows);
+  if (m_ParProps.InTable == 0) return;
+  // Fixed behaviour: a run in a table has the formatting that the last tab, quote, raw byte or line end noted.
+  state.CharProps.CellFontId = m_CellFont;
+  state.CharProps.FontSize = m_CellFontSize;
+  state.CharProps.Bold = m_CellBold;
+  state.CharProps.Italic = m_CellItalic;
+  state.CharProps.Superscript = m_CellSuper;
+  state.CharProps.Subscript = m_CellSub;
+}
+
+void CRTFParser::ContextHasChanged(bool paragraphEnd, bool lineBreak, bool tableEnd) {
+  if (m_pContextHandler == nullptr) {
+    PrintChar(kLineFeed);
+    return;
+  }
+  if (!m_TextBuffer.empty() || paragraphEnd || lineBreak || tableEnd || m_pPicture != nullptr) {
+    CRTFState& state = m_pStore->m_RunState;
+    FillState(state);
+    CRTFContext context;
+    context.State = &state;
+    context.Font = GetFontAtID(m_ParProps.InTable != 0 ? m_CellFont : m_FontProps.FontId);
+    context.ParagraphEnd = paragraphEnd ? 1 : 0;
+    context.LineBreak = lineBreak ? 1 : 0;
+    context.TableEnd = tableEnd ? 1 : 0;
+    context.Picture = m_pPicture;
+    context.ForeColor =
+        GetColorAtID(ColorIndex(m_CharProps.CharForeColor, m_ParProps.ForeColor, m_FontProps.ForeColorIndex));
+    context.BackColor =
+        GetColorAtID(ColorIndex(m_CharProps.CharBackColor, m_ParProps.BackColor, m_FontProps.BackColorIndex));
+    context.List = m_pCurList;
+    context.Level = m_pCurLevel;
+    m_pContextHandler->OnContextChanged(m_TextBuffer.c_str(), &context);
+  }
+  m_TextBuffer.clear();
+  FreePicture();
+}
+
+int CRTFParser::ParseParagraphEnd() {
+  if (m_ParProps.InTable == 0) {
+    ContextHasChanged(true, false, false);
+    return rtfOK;
+  }
+  if (!m_InRow) m_ParProps.InTable = 0;
+  return PrintChar(kLineFeed);
+}
+
+int CRTFParser::ParseTabStop(int value) {
+  if (m_ParProps.TabCount < CRTFTabStops::kCount) {
+    CRTFTabStop& stop = m_ParProps.Tabs[m_ParProps.TabCount++];
+    stop.Position = value;
+    stop.Kind = m_ParProps.TabKind;
+  }
+  return rtfOK;
+}
+
+void CRTFParser::EndBookmarkStart() {
+  if (m_pContextHandler != nullptr) m_pContextHandler->OnBookmark(m_BookmarkBuffer, true);
+  m_BookmarkBuffer.clear();
+}
+
+void CRTFParser::EndBookmarkEnd() {
+  if (m_pContextHandler != nullptr) m_pContextHandler->OnBookmark(m_BookmarkBuffer, false);
+  m_BookmarkBuffer.clear();
+}
+
+void CRTFParser::FreeOutput() { FreePicture(); }

@@ -1,0 +1,116 @@
+#include "fonts/FontData.h"
+#include "rtf/PictureConvertHandler.h"
+#include "rtf/RTFParser.h"
+
+#include <algorithm>
+#include <climits>
+#include <memory>
+#include <vector>
+
+// Pictures: which ones are read, their hex digits, and their conversion by the caller.
+
+namespace {
+
+constexpr int kConvertedRoom = 2097152;
+/// A store grows by this many bytes. Small pictures take a smaller one, so that thousands of them cost little.
+constexpr std::size_t kStoreChunk = 65535;
+
+enum PictureFormat : int { formatAsIs = 0, formatPng = 2, formatEmf = 5 };
+
+unsigned char ToUpper(unsigned char ch) {
+  return ch >= 'a' && ch <= 'z' ? static_cast<unsigned char>(ch - ('a' - 'A')) : ch;
+}
+
+/// Fixed behaviour: digits are not checked; any other character than 0 to 9 counts as a letter behind 9.
+unsigned DigitValue(unsigned char upperCased) {
+  const bool isDigit = upperCased >= '0' && upperCased <= '9';
+  return static_cast<unsigned>(upperCased) - static_cast<unsigned>(isDigit ? '0' : '7');
+}
+
+/// A new store, owned by the caller.
+CFontData* MakeStore(unsigned char* bytes, std::size_t count) {
+  const std::size_t chunk = std::clamp<std::size_t>(count, 1, kStoreChunk);
+  auto store = std::make_unique<CFontData>(static_cast<int>(chunk), false);
+  store->AddFontMemData(bytes, static_cast<int>(std::min<std::size_t>(count, INT_MAX)));
+  return store.release();
+}
+
+}  // namespace
+
+int CRTFParser::ParsePictureProperty(IPROP prop) {
+  m_InShpPict = prop == ipropShpPict;
+  m_InNonShpPict = !m_InShpPict;
+  return rtfOK;
+}
+
+void CRTFParser::ParsePictureByte() {
+  if (m_InShpPict) {
+    UnGetChar();
+    ReadPictureData();
+    m_PictureRead = true;
+    m_InShpPict = false;
+  } else if (m_InNonShpPict) {
+    if (!m_PictureRead) {
+      UnGetChar();
+      ReadPictureData();
+    }
+    m_PictureRead = false;
+    m_InNonShpPict = false;
+  }
+}
+
+void CRTFParser::ReadPictureDigits(std::vector<unsigned char>& bytes) {
+  m_HexHigh = 0;
+  m_HexLow = 0;
+  bool highRead = false;
+  for (;;) {
+    const unsigned char* const before = m_pCur;
+    const unsigned char ch = GetChar();
+    if (ch == 0 || ch == '\\' || ch == '{' || ch == '}') {
+      // The byte that ends the picture is for the loop of RtfParse. Behind the last byte there is none.
+      if (m_pCur != before) UnGetChar();
+      return;
+    }
+    if (ch == '\n' || ch == '\r') continue;
+    if (highRead) {
+      m_HexLow = ToUpper(ch);
+      bytes.push_back(static_cast<unsigned char>(DigitValue(m_HexHigh) * 16 + DigitValue(m_HexLow)));
+    } else {
+      m_HexHigh = ToUpper(ch);
+    }
+    highRead = !highRead;
+  }
+}
+
+void CRTFParser::ReadPictureData() {
+  std::vector<unsigned char> bytes;
+  ReadPictureDigits(bytes);
+  FreePicture();
+  m_pPicture = MakeStore(bytes.data(), bytes.size());
+
+  int format = formatAsIs;
+  if (m_CharProps.PngBlip != 0) format = formatPng;
+  if (m_CharProps.EmfBlip != 0) format = formatEmf;
+  if (format == formatAsIs || ConvertPicture(format)) ContextHasChanged(false, false, false);
+}
+
+bool CRTFParser::ConvertPicture(int format) {
+  if (m_pPictureHandler == nullptr) return false;
+  const auto converted = std::make_unique_for_overwrite<unsigned char[]>(kConvertedRoom);
+  int length = kConvertedRoom;
+  if (!m_pPictureHandler->ConvertPicture(format, m_pPicture->GetData(), m_pPicture->GetLength(), 0,
+                                         converted.get(), &length)) {
+    return false;
+  }
+  // What the converter claims beyond the room is not there.
+  length = std::clamp(length, 0, kConvertedRoom);
+  CFontData* const store = MakeStore(converted.get(), static_cast<std::size_t>(length));
+  FreePicture();
+  m_pPicture = store;
+  return true;
+}
+
+void CRTFParser::FreePicture() {
+  delete m_pPicture;
+  m_pPicture = nullptr;
+}
