@@ -19,8 +19,9 @@ class CRTFState;
 class CRTFStyleSheet;
 
 namespace zeb {
+struct RTFField;
 struct RTFStore;
-}
+}  // namespace zeb
 
 /// Reads a block of RTF bytes in one pass and hands it, run by run, to a CContextChangedHandler. It builds no
 /// document of its own.
@@ -354,25 +355,42 @@ class ZEB_EXPORT CRTFParser {
  private:
   // The loop and its keywords.
   struct HexByte;
-  int ParseGroupByte(unsigned char ch, char* pending);
+  /// @param pending two bytes: a hex byte that waits for a second one, zero if there is none
+  int ParseByte(unsigned char ch, HexByte& hex, char* pending);
   int ParseHexDigit(unsigned char ch, HexByte& hex, char* pending);
   void FlushPending(char* pending);
+  bool NextIsHexByte();
   void ParsePlainBytes(unsigned char ch);
+  void AppendPlainText(unsigned char ch);
   unsigned char ReadParameter(unsigned char ch, int& param);
-  int StoreByte(const PropertyRow& row, int value, bool closesRun);
-  int StoreInt(const PropertyRow& row, int value, bool closesRun);
+  void EnterFrom(RDS from, RDS to);
+
+  // Properties.
+  zeb::RTFField FieldOf(const PropertyRow& row);
+  void CloseRunOutsideTable();
   int EndSuperAndSubscript();
   int ResetParagraph();
   int ParseStyleProperty(int value);
   int ParseColorProperty(IPROP prop, int value);
 
-  // Tables of the document: what begins and ends with a group, and the keywords of lists.
+  // Groups.
+  void SaveState(CRTFState& state);
+  bool IsSaved(const CRTFState& state);
+  void RestoreState(const CRTFState& state);
+  /// The saved state of the innermost group, which that group has for itself from now on; null without memory.
+  CRTFState* StateOfTopGroup();
+  void LeaveTopGroup();
+
+  // Tables of the document: what a group builds, from its beginning to its end, and the keywords of lists.
+  // The destination has been set when a group's object is made.
   void BeginFontEntry();
   void BeginStyleEntry();
   void BeginColorTable();
   void BeginListLevel();
   void EndFontEntry();
   void EndStyleEntry();
+  /// A semicolon in a colour table.
+  void EndColor();
   void EndColorTable();
   void EndListTable();
   void EndListLevel();
@@ -381,6 +399,7 @@ class ZEB_EXPORT CRTFParser {
   void EndListOverrideTable();
   void EndListText();
   int ParseListProperty(IPROP prop, int value);
+  /// Frees all of the above in the destructor.
   void FreeDestinationTables();
 
   // Characters.
@@ -413,6 +432,7 @@ class ZEB_EXPORT CRTFParser {
   /// @return whether the picture has been replaced
   bool ConvertPicture(int format);
   void FreePicture();
+  /// Frees pictures, rows and cells in the destructor.
   void FreeOutput();
 
   unsigned char* m_pBegin;  // observer

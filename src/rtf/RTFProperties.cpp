@@ -18,3 +18,7 @@ CRTFTabStop& CRTFTabStops::operator[](int index) {
 
 const CRTFTabStop* CRTFTabStops::begin() const { return Stops().data(); }
 const CRTFTabStop* CRTFTabStops::end() const { return Stops().data() + kCount; }
+
+bool CRTFTabStops::operator==(const CRTFTabStops& other) const {
+  return m_pStops == other.m_pStops || Stops() == other.Stops();
+}

@@ -18,6 +18,8 @@ class ZEB_EXPORT CRTFTabStop {
   int Position = 0;
   /// 0 left, 1 right, 2 centre, 3 decimal.
   int Kind = 0;
+
+  bool operator==(const CRTFTabStop&) const = default;
 };
 
 /// The 100 tab stops of a paragraph, all zero at the start. A copy shares the block with its source until one of
@@ -34,6 +36,8 @@ class ZEB_EXPORT CRTFTabStops {
   const CRTFTabStop* begin() const;
   const CRTFTabStop* end() const;
   int size() const { return kCount; }
+
+  bool operator==(const CRTFTabStops& other) const;
 
  private:
   using Block = std::array<CRTFTabStop, kCount>;
@@ -73,6 +77,8 @@ class ZEB_EXPORT CCharacterProperties {
   int PicScaleY = 0;
   /// 1 inside of the text form of an old list number.
   unsigned char PnText = 0;
+
+  bool operator==(const CCharacterProperties&) const = default;
 };
 
 /// Formatting of paragraphs.
@@ -95,6 +101,8 @@ class ZEB_EXPORT CParagraphProperties {
   signed char BackColor = 0;
   unsigned char PnBullet = 0;
   unsigned char PnDecimal = 0;
+
+  bool operator==(const CParagraphProperties&) const = default;
 };
 
 /// Formatting of sections.
@@ -107,6 +115,8 @@ class ZEB_EXPORT CSectionProperties {
   int PageNumberY = 0;
   /// 0 decimal, 1 upper case Roman, 2 lower case Roman, 3 upper case letters, 4 lower case letters.
   unsigned char PageNumberFormat = 0;
+
+  bool operator==(const CSectionProperties&) const = default;
 };
 
 /// Font and colours, by their numbers in the tables of the document.
@@ -116,6 +126,8 @@ class ZEB_EXPORT CFontProperties {
   int CharSet = 0;
   int ForeColorIndex = 0;
   int BackColorIndex = 0;
+
+  bool operator==(const CFontProperties&) const = default;
 };
 
 /// Formatting of the document, and the table that is being read.
@@ -146,4 +158,6 @@ class ZEB_EXPORT CDocumentProperties {
   int RowIndex = -1;
   int CellIndex = -1;
   int AnsiCodePage = 0;
+
+  bool operator==(const CDocumentProperties&) const = default;
 };

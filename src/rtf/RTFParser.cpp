@@ -1,0 +1,238 @@
+#include "rtf/RTFParser.h"
+
+#include "rtf/RTFKeywordTable.h"
+#include "rtf/RTFPropertyTable.h"
+#include "rtf/RTFState.h"
+#include "rtf/RTFStore.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+/// The byte that two hex digits make up, as far as they have been read.
+struct CRTFParser::HexByte {
+  int m_iDigitsLeft = 2;
+  unsigned m_uValue = 0;
+};
+
+namespace {
+
+/// The value of a hex digit, -1 for any other byte.
+int HexDigit(unsigned char ch) {
+  if (ch >= '0' && ch <= '9') return ch - '0';
+  if (ch >= 'a' && ch <= 'f') return ch - 'a' + 10;
+  if (ch >= 'A' && ch <= 'F') return ch - 'A' + 10;
+  return -1;
+}
+
+/// Whether a byte of text is text and nothing else.
+constexpr std::array<bool, 256> kPlain = [] {
+  std::array<bool, 256> plain{};
+  plain.fill(true);
+  for (const char ch : {'\0', '\n', '\r', '\\', '{', '}'}) plain[static_cast<unsigned char>(ch)] = false;
+  return plain;
+}();
+
+unsigned char* EndOfPlainBytes(unsigned char* from, unsigned char* end) {
+  return std::find_if(from, end, [](unsigned char ch) { return !kPlain[ch]; });
+}
+
+}  // namespace
+
+CRTFParser::CRTFParser(unsigned char* data, int length, CContextChangedHandler* handler,
+                       CPictureConvertHandler* pictureHandler)
+    : m_pCur(data),
+      m_Size(length),
+      m_pEnd(data + std::max(length, 0)),
+      m_cGroup(0),
+      m_rds(rdsNorm),
+      m_ris(risNorm),
+      m_pStack(nullptr),
+      m_cbBin(0),
+      m_lParam(0),
+      m_bSkipDestIfUnknown(false),
+      m_pPropTable(new PropertyRow[zeb::kRTFPropertyTable.size()]),
+      m_pKeywordTable(new KeywordRow[zeb::kRTFKeywordTable.size()]),
+      m_KeywordCount(zeb::kRTFKeywordCount),
+      m_pCurFont(nullptr),
+      m_pCurStyle(nullptr),
+      m_pCurColor(nullptr),
+      m_pContextHandler(handler),
+      m_HexHigh(0),
+      m_HexLow(0),
+      m_pPicture(nullptr),
+      m_GB2312Read(false),
+      m_BigFiveRead(false),
+      m_pCurList(nullptr),
+      m_pCurLevel(nullptr),
+      m_pPictureHandler(pictureHandler),
+      m_PictureRead(false),
+      m_InShpPict(false),
+      m_InNonShpPict(false),
+      m_InRow(false),
+      m_CellFont(0),
+      m_CellFontSize(0),
+      m_CellBold(0),
+      m_CellItalic(0),
+      m_CellSuper(0),
+      m_CellSub(0),
+      m_cSkip(0),
+      m_pBegin(data),
+      m_pStore(new zeb::RTFStore) {
+  std::copy(zeb::kRTFPropertyTable.begin(), zeb::kRTFPropertyTable.end(), m_pPropTable);
+  std::copy(zeb::kRTFKeywordTable.begin(), zeb::kRTFKeywordTable.end(), m_pKeywordTable);
+}
+
+CRTFParser::CRTFParser(const CRTFParser& other) = default;
+CRTFParser& CRTFParser::operator=(const CRTFParser& other) = default;
+
+CRTFParser::~CRTFParser() {
+  while (m_pStack != nullptr) {
+    CRTFState* next = m_pStack->Next;
+    delete m_pStack;
+    m_pStack = next;
+  }
+  FreeOutput();
+  FreeDestinationTables();
+  delete m_pStore;
+  delete[] m_pKeywordTable;
+  delete[] m_pPropTable;
+}
+
+std::wstring CRTFParser::GetTextContent() const { return m_TextBuffer; }
+
+unsigned char CRTFParser::GetChar() { return m_pCur < m_pEnd ? *m_pCur++ : '\0'; }
+
+void CRTFParser::UnGetChar() {
+  // Fixed behaviour: goes back behind the data's end as well, where GetChar did not move.
+  if (m_pCur > m_pBegin) --m_pCur;
+}
+
+int CRTFParser::RtfParse() {
+  char pending[2] = {0, 0};  // a hex byte that waits for a second one
+  HexByte hex;
+  for (;;) {
+    const unsigned char ch = GetChar();
+    if (ch == 0) {
+      FlushPending(pending);
+      if (m_cGroup < 0) return rtfStackUnderflow;
+      return m_cGroup == 0 ? rtfOK : rtfUnmatchedBrace;
+    }
+    if (m_cGroup < 0) return rtfStackUnderflow;
+    const int result = ParseByte(ch, hex, pending);
+    if (result != rtfOK) return result;
+  }
+}
+
+int CRTFParser::ParseByte(unsigned char ch, HexByte& hex, char* pending) {
+  if (m_ris == risBin) {
+    FlushPending(pending);
+    return ParseChar(ch);
+  }
+  switch (ch) {
+    case '\n':
+    case '\r':
+      return rtfOK;
+    case '\\':
+      if (pending[0] != 0 && !NextIsHexByte()) FlushPending(pending);
+      return ParseRtfKeyword();
+    case '{':
+      FlushPending(pending);
+      return PushRtfState();
+    case '}':
+      FlushPending(pending);
+      return PopRtfState();
+    default:
+      break;
+  }
+  if (m_ris == risHex) return ParseHexDigit(ch, hex, pending);
+  if (m_ris != risNorm) return rtfBadState;
+  FlushPending(pending);
+  ParsePlainBytes(ch);
+  return rtfOK;
+}
+
+bool CRTFParser::NextIsHexByte() {
+  // Fixed behaviour: behind the last byte this goes back to the backslash, which is then read as its own keyword.
+  const unsigned char next = GetChar();
+  UnGetChar();
+  return next == '\'';
+}
+
+void CRTFParser::FlushPending(char* pending) {
+  if (pending[0] != 0) ParseMultiByteCharacter(pending, 1);
+}
+
+int CRTFParser::ParseHexDigit(unsigned char ch, HexByte& hex, char* pending) {
+  const int digit = HexDigit(ch);
+  if (digit < 0) return rtfInvalidHex;
+  hex.m_uValue = hex.m_uValue * 16 + static_cast<unsigned>(digit);
+  if (--hex.m_iDigitsLeft > 0) return rtfOK;
+
+  const char byte = static_cast<char>(hex.m_uValue);
+  hex = HexByte();
+  m_ris = risNorm;
+  if (m_cSkip > 0) {
+    --m_cSkip;
+  } else if (pending[0] == 0) {
+    pending[0] = byte;
+  } else {
+    pending[1] = byte;
+    ParseMultiByteCharacter(pending, 2);
+  }
+  return rtfOK;
+}
+
+void CRTFParser::ParsePlainBytes(unsigned char ch) {
+  if (m_cSkip > 0) {
+    --m_cSkip;
+  } else if (m_rds == rdsSkip) {
+    m_pCur = EndOfPlainBytes(m_pCur, m_pEnd);
+  } else if (m_rds == rdsNorm) {
+    AppendPlainText(ch);
+  } else {
+    ParseMultiByteCharacter(ch);
+  }
+}
+
+void CRTFParser::AppendPlainText(unsigned char ch) {
+  // All bytes up to the next brace, backslash or line end go one way: through the code page into the text.
+  const wchar_t* characters = PlainByteCharacters();
+  std::array<wchar_t, 512> text;
+  std::size_t count = 0;
+  text[count++] = characters[ch];
+  while (m_pCur < m_pEnd && kPlain[*m_pCur]) {
+    if (count == text.size()) {
+      m_TextBuffer.append(text.data(), count);
+      count = 0;
+    }
+    text[count++] = characters[*m_pCur++];
+  }
+  m_TextBuffer.append(text.data(), count);
+}
+
+int CRTFParser::ParseChar(unsigned char ch) {
+  if (m_ris == risBin && --m_cbBin < 1) m_ris = risNorm;
+  switch (m_rds) {
+    case rdsNorm:
+    case rdsListText:
+      return PrintChar(ch);
+    case rdsFontEntry:
+    case rdsStyleEntry:
+      m_NameBuffer += static_cast<wchar_t>(ch);
+      break;
+    case rdsColorTable:
+      if (ch == ';') EndColor();
+      break;
+    case rdsPicture:
+      ParsePictureByte();
+      break;
+    case rdsBookmarkStart:
+    case rdsBookmarkEnd:
+      m_BookmarkBuffer += static_cast<wchar_t>(ch);
+      break;
+    default:
+      break;
+  }
+  return rtfOK;
+}
