@@ -1,4 +1,7 @@
 #include "fonts/FontMetrics.h"
+#include "fonts/TrueTypeCMap.h"
+#include "fonts/TrueTypeFile.h"
+#include "fonts/TrueTypeHMtx.h"
 
 #include <cmath>
 #include <limits>
@@ -67,3 +70,24 @@ unsigned short CFontMetrics::MapChar(unsigned short code) {
 }
 
 unsigned short CFontMetrics::GetUsedGlyphsCount() const { return m_usNextNewIndex; }
+
+unsigned short CFontMetrics::GetWidthOfUsedGlyph(unsigned short newIndex) {
+  const auto found = m_NewIndexToGlyph.find(newIndex);
+  CTrueTypeFile* file = GetTTFile();
+  if (found == m_NewIndexToGlyph.end() || file == nullptr) return 0;
+  const CTrueTypeTabHMtx* hmtx = file->GetTabHMtx();
+  if (hmtx == nullptr || found->second >= hmtx->GetEntryCount()) return 0;
+  return static_cast<unsigned short>(ConvertTTToPDF(hmtx->GetEntryAt(found->second)->GetAdvanceWidth()));
+}
+
+void CFontMetrics::ConvertAllCodesToGlyphIDs(unsigned char* buffer, int length) {
+  CTrueTypeFile* file = GetTTFile();
+  if (file == nullptr || file->GetTabCMap() == nullptr) return;
+  const CTrueTypeCMap4* map = file->GetTabCMap()->GetCMap4();
+  if (map == nullptr) return;
+  for (int i = 0; i < length / 2; ++i) {
+    const unsigned short glyph = map->GetGlyph(static_cast<unsigned short>(i));
+    buffer[2 * i] = static_cast<unsigned char>(glyph >> 8U);
+    buffer[2 * i + 1] = static_cast<unsigned char>(glyph);
+  }
+}

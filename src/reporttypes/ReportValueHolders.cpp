@@ -1,5 +1,6 @@
 #include "reporttypes/ReportValueHolders.h"
 
+#include "fonts/FontPool.h"
 #include "foundation/KXExceptionHandler.h"
 #include "model/DynamicValueHolder.h"
 #include "model/FormulaValueHolder.h"
@@ -31,10 +32,11 @@ CReportValueHolders& CReportValueHolders::operator=(const CReportValueHolders& o
 
 CReportValueHolders::~CReportValueHolders() { delete m_pRootElement; }
 
-void CReportValueHolders::LoadReport(const wchar_t* reportFile, [[maybe_unused]] const wchar_t* fontPoolPath,
+void CReportValueHolders::LoadReport(const wchar_t* reportFile, const wchar_t* fontPoolPath,
                                      const wchar_t* exceptionPath) {
   m_pReportDocument = nullptr;
   delete std::exchange(m_pRootElement, nullptr);
+  CFontPool::GetInstance().SetFontPoolPath(fontPoolPath);
   CKXExceptionHandler::GetInstance().SetExceptionPathName(exceptionPath);
   m_pRootElement = new CReportRootElement;
   m_pRootElement->LoadReport(reportFile, nullptr);

@@ -1,5 +1,6 @@
 #include "reporttypes/ReportValueHolders.h"
 
+#include "fonts/FontPool.h"
 #include "foundation/KXException.h"
 #include "foundation/KXExceptionHandler.h"
 #include "support/KeepForever.h"
@@ -24,7 +25,10 @@ const std::filesystem::path kExamples = ZEB_EXAMPLES;
 /// A report behind its facade, with what nobody owns freed at its end.
 class ReportValueHolders : public testing::Test {
  protected:
-  void TearDown() override { Forget(); }
+  void TearDown() override {
+    Forget();
+    CFontPool::GetInstance().SetFontPoolPath(L"");
+  }
 
   void LoadFile(const std::filesystem::path& report) {
     Forget();
@@ -371,14 +375,20 @@ TEST_F(ReportValueHolders, FindNoGraphicUnderTheKeyOfAnotherKind) {
   EXPECT_EQ(height, -2.0F);
 }
 
-TEST_F(ReportValueHolders, SetTheCataloguePath) {
+TEST_F(ReportValueHolders, SetThePathsOfTheProcess) {
   LoadSample("invoice");
-  try {
-    CKXExceptionHandler::GetInstance().ThrowException(L"OrderVectorNotSortable");
-    FAIL();
-  } catch (const CKXException& exception) {
-    EXPECT_NE(exception.GetErrorNr(), -1) << "the catalogue was not found";
-  }
+  EXPECT_EQ(CKXExceptionHandler::GetInstance().GetExceptionNamePath(), zebtest::WidePath(ZEB_SHARE) + L'\\');
+  const std::wstring pool = CFontPool::GetInstance().GetFontPoolPath();
+  EXPECT_EQ(pool.substr(0, pool.size() - 1), m_dir.WidePath());
+}
+
+// The paths are set before the file is opened.
+TEST_F(ReportValueHolders, SetThePathsAlsoIfTheLoadFails) {
+  EXPECT_THROW(m_facade.LoadReport(m_dir.WideFile("absent.xml").c_str(), m_dir.WideFile("pool").c_str(),
+                                   m_dir.WideFile("catalogue").c_str()),
+               CKXXMLException);
+  EXPECT_EQ(CKXExceptionHandler::GetInstance().GetExceptionNamePath(), m_dir.WideFile("catalogue") + L'\\');
+  EXPECT_TRUE(std::wstring(CFontPool::GetInstance().GetFontPoolPath()).starts_with(m_dir.WideFile("pool")));
 }
 
 TEST_F(ReportValueHolders, StartCleanAfterAFailedLoad) {

@@ -25,9 +25,12 @@ const Command* FindCommand(const std::wstring& name);
 
 int RunCheck(ArgumentReader& arguments, std::wstring& output);
 int RunCopy(ArgumentReader& arguments, std::wstring& output);
+int RunDescriptions(ArgumentReader& arguments, std::wstring& output);
 int RunEval(ArgumentReader& arguments, std::wstring& output);
 int RunHelp(ArgumentReader& arguments, std::wstring& output);
+int RunKeys(ArgumentReader& arguments, std::wstring& output);
 int RunOrder(ArgumentReader& arguments, std::wstring& output);
 int RunShow(ArgumentReader& arguments, std::wstring& output);
+int RunType(ArgumentReader& arguments, std::wstring& output);
 
 }  // namespace zebreport

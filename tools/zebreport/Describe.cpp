@@ -9,21 +9,6 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
-std::wstring TypeName(int type) {
-  switch (type) {
-    case CValueHolder::VHTypeText:
-      return L"text";
-    case CValueHolder::VHTypeNumber:
-      return L"number";
-    case CValueHolder::VHTypeDate:
-      return L"date";
-    case CValueHolder::VHTypeGraphic:
-      return L"graphic";
-    default:
-      return L"type " + std::to_wstring(type);
-  }
-}
-
 std::wstring PointName(RelationPoint point) {
   switch (point) {
     case RelationPointUpperLeft:
@@ -169,6 +154,21 @@ void AddCondition(const CCondition& condition, Texts& texts) {
 }
 
 }  // namespace
+
+std::wstring TypeName(int type) {
+  switch (type) {
+    case CValueHolder::VHTypeText:
+      return L"text";
+    case CValueHolder::VHTypeNumber:
+      return L"number";
+    case CValueHolder::VHTypeDate:
+      return L"date";
+    case CValueHolder::VHTypeGraphic:
+      return L"graphic";
+    default:
+      return L"type " + std::to_wstring(type);
+  }
+}
 
 std::vector<std::wstring> Describe(const CPlaceable& object) {
   Texts texts;

@@ -7,6 +7,9 @@
 
 namespace zebreport {
 
+/// A type of values for people: "text", "number", "date", "graphic", else its number.
+std::wstring TypeName(int type);
+
 /// What is to be said of an object beside its name and its tie to another one, one line each; what is at its default is
 /// left out.
 std::vector<std::wstring> Describe(const CPlaceable& object);

@@ -1,8 +1,7 @@
 #include "LoadedReport.h"
 
 #include "Failure.h"
-
-#include <set>
+#include "UnownedObjects.h"
 
 namespace zebreport {
 
@@ -14,51 +13,12 @@ std::wstring FileName(const std::wstring& path) {
   return separator == std::wstring::npos ? path : path.substr(separator + 1);
 }
 
-using Objects = std::set<CPlaceable*>;
-
-/// Formulas that zones define but do not place. One that is placed as well is its zone's.
-void CollectDefinedFormulas(CReportDocument& document, Objects& objects) {
-  for (int i = 0; i < document.GetReportZoneCount(); ++i) {
-    const CReportZone* zone = document.GetReportZoneAt(i);
-    for (int j = 0; zone != nullptr && j < zone->GetDefinedFormulaValueHoldersCount(); ++j) {
-      objects.insert(zone->GetDefinedFormulaValueHolderAt(j));
-    }
-  }
-  for (int i = 0; i < document.GetReportZoneCount(); ++i) {
-    CReportZone* zone = document.GetReportZoneAt(i);
-    for (int j = 0; zone != nullptr && j < zone->GetValueHolderCount(); ++j) {
-      objects.erase(zone->GetValueHolderAt(j));
-    }
-    for (int j = 0; zone != nullptr && j < zone->GetTableCellCount(); ++j) {
-      const CTableCell* cell = zone->GetTableCellAt(j);
-      for (int k = 0; cell != nullptr && k < cell->GetCellElementCount(); ++k) {
-        objects.erase(cell->GetCellElementAt(k));
-      }
-    }
-  }
-}
-
-/// The elements of table cells on pages.
-void CollectCellElements(const CReportLayout& layout, Objects& objects) {
-  for (int i = 0; i < layout.GetPageCount(); ++i) {
-    CLayoutPage* page = layout.GetPageAt(i);
-    for (int j = 0; page != nullptr && j < page->GetLayoutContentCount(); ++j) {
-      const auto* cell = dynamic_cast<CTableCell*>(page->GetLayoutContentAt(j));
-      for (int k = 0; cell != nullptr && k < cell->GetCellElementCount(); ++k) {
-        objects.insert(cell->GetCellElementAt(k));
-      }
-    }
-  }
-}
-
 }  // namespace
 
 LoadedReport::~LoadedReport() {
-  Objects unowned;
-  if (m_pRoot->GetReportDocument() != nullptr) CollectDefinedFormulas(*m_pRoot->GetReportDocument(), unowned);
-  if (m_pRoot->GetReportLayout() != nullptr) CollectCellElements(*m_pRoot->GetReportLayout(), unowned);
+  UnownedObjects unowned;
+  unowned.Collect(*m_pRoot);
   m_pRoot.reset();
-  for (CPlaceable* object : unowned) delete object;
 }
 
 void LoadedReport::LoadExactly(const std::filesystem::path& report, const std::filesystem::path& layout) {
