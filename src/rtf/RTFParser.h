@@ -19,6 +19,7 @@ class CRTFState;
 class CRTFStyleSheet;
 
 namespace zeb {
+class CodePage;
 struct RTFField;
 struct RTFStore;
 }  // namespace zeb
@@ -318,11 +319,11 @@ class ZEB_EXPORT CRTFParser {
   KeywordRow* m_pKeywordTable;  // owned, shared by copies
   int m_KeywordCount;
   std::map<int, CRTFFont*> m_Fonts;              // owned, shared by copies
-  CRTFFont* m_pCurFont;                          // owned until it enters the map
+  CRTFFont* m_pCurFont;                          // observer
   std::map<int, CRTFStyleSheet*> m_StyleSheets;  // owned, shared by copies
   CRTFStyleSheet* m_pCurStyle;                   // observer
   std::map<int, CRTFColor*> m_Colors;            // owned, shared by copies
-  CRTFColor* m_pCurColor;                        // owned until it enters the map
+  CRTFColor* m_pCurColor;                        // observer
   std::wstring m_NameBuffer;
   std::wstring m_TextBuffer;
   std::wstring m_BookmarkBuffer;
@@ -398,12 +399,21 @@ class ZEB_EXPORT CRTFParser {
   void EndLevelNumbers();
   void EndListOverrideTable();
   void EndListText();
+  void BeginList();
+  void SetCurrentListId(int listId);
   int ParseListProperty(IPROP prop, int value);
+  void ParseListTableProperty(IPROP prop, int value);
+  void ParseListLevelProperty(IPROP prop, int value);
+  void ParseListOverrideProperty(IPROP prop, int value);
+  int ParseListReference(IPROP prop, int value);
+  void FreeLists();
   /// Frees all of the above in the destructor.
   void FreeDestinationTables();
 
   // Characters.
   int ParseUnicodeProperty(int value);
+  /// The code page of the current font's character set.
+  const zeb::CodePage& CurrentCodePage();
   /// What each plain byte stands for in the current font: 256 characters.
   const wchar_t* PlainByteCharacters();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rtf/RTFDestinationTables.h"
 #include "rtf/RTFState.h"
 #include "rtf/RTFTableRow.h"
 
@@ -10,6 +11,7 @@ namespace zeb {
 
 /// What a CRTFParser owns and keeps beside the members that its interface shows. Freed with the parser.
 struct RTFStore {
+  RTFDestinationTables m_Tables;
   /// How many tables have been freed. A saved state of an earlier count has no table any more.
   int m_iFreedTables = 0;
   /// All rows and cells of all tables. They outlive their tables, since records of handlers may still name them.
