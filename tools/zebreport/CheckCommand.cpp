@@ -1,7 +1,7 @@
 #include "Commands.h"
 #include "FileCheck.h"
 
-#include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace zebreport {
@@ -41,8 +41,7 @@ std::wstring JsonString(const std::wstring& text) {
   for (const wchar_t character : text) {
     if (character == L'"' || character == L'\\') {
       quoted += {L'\\', character};
-    } else if (character >= 0 && character < L' ') {
-      const auto code = static_cast<std::size_t>(character);
+    } else if (const auto code = static_cast<std::uint32_t>(character); code < 0x20) {
       quoted += {L'\\', L'u', L'0', L'0', kDigits[code / 16], kDigits[code % 16]};
     } else {
       quoted += character;
