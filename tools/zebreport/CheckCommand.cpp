@@ -1,8 +1,6 @@
 #include "Commands.h"
 #include "FileCheck.h"
-
-#include <cstdint>
-#include <string_view>
+#include "JsonWriter.h"
 
 namespace zebreport {
 
@@ -34,35 +32,23 @@ void WriteText(const std::wstring& file, const std::vector<zeb::ReadingFinding>&
   }
 }
 
-/// The text as a string of JSON.
-std::wstring JsonString(const std::wstring& text) {
-  constexpr std::wstring_view kDigits = L"0123456789abcdef";
-  std::wstring quoted = L"\"";
-  for (const wchar_t character : text) {
-    if (character == L'"' || character == L'\\') {
-      quoted += {L'\\', character};
-    } else if (const auto code = static_cast<std::uint32_t>(character); code < 0x20) {
-      quoted += {L'\\', L'u', L'0', L'0', kDigits[code / 16], kDigits[code % 16]};
-    } else {
-      quoted += character;
-    }
-  }
-  return quoted + L"\"";
-}
-
 void WriteJson(const std::wstring& file, const std::vector<zeb::ReadingFinding>& findings,
                std::wstring& output) {
-  output += L"{\"file\": " + JsonString(file) + L", \"findings\": [";
-  const wchar_t* separator = L"\n";
+  JsonWriter json(output);
+  json.BeginObject();
+  json.Key(L"file").String(file);
+  json.Key(L"findings").BeginArray();
   for (const zeb::ReadingFinding& finding : findings) {
-    output += separator;
-    output += L"  {\"line\": " + std::to_wstring(finding.Line) + L", \"column\": " +
-              std::to_wstring(finding.Column) + L", \"path\": " + JsonString(finding.Path) +
-              L", \"reason\": " + JsonString(NameOf(finding.Fault)) + L", \"text\": " +
-              JsonString(finding.Text) + L"}";
-    separator = L",\n";
+    json.BeginObject();
+    json.Key(L"line").Integer(static_cast<int>(finding.Line));
+    json.Key(L"column").Integer(static_cast<int>(finding.Column));
+    json.Key(L"path").String(finding.Path);
+    json.Key(L"reason").String(NameOf(finding.Fault));
+    json.Key(L"text").String(finding.Text);
+    json.End();
   }
-  output += findings.empty() ? L"]}\n" : L"\n]}\n";
+  json.End();
+  json.End();
 }
 
 }  // namespace
