@@ -23,3 +23,9 @@ CPostscriptFontMetrics& CFontInformation::PostscriptMetrics() {
   if (m_pPostscriptMetrics == nullptr) m_pPostscriptMetrics = new CPostscriptFontMetrics();
   return *m_pPostscriptMetrics;
 }
+
+void CFontInformation::ReadAFM(const wchar_t* path) {
+  CPostscriptFontMetrics& metrics = PostscriptMetrics();
+  metrics.ReadAFMFile(path);
+  m_pMetrics = &metrics;
+}

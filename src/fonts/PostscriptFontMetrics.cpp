@@ -1,6 +1,6 @@
 #include "fonts/PostscriptFontMetrics.h"
 
-CPostscriptFontMetrics::CPostscriptFontMetrics() : m_rgwcToken{}, m_rgwcLine{} {}
+CPostscriptFontMetrics::CPostscriptFontMetrics() : m_rgwcToken{}, m_rgwcLine{}, m_pCursor(nullptr) {}
 
 CPostscriptFontMetrics::CPostscriptFontMetrics(const CPostscriptFontMetrics& other) = default;
 
