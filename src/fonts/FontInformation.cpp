@@ -29,3 +29,15 @@ void CFontInformation::ReadAFM(const wchar_t* path) {
   metrics.ReadAFMFile(path);
   m_pMetrics = &metrics;
 }
+
+void CFontInformation::ReadPFM(const wchar_t* path) {
+  CPostscriptFontMetrics& metrics = PostscriptMetrics();
+  metrics.ReadPFMFile(path);
+  m_pMetrics = &metrics;
+}
+
+void CFontInformation::ReadPFBPFA(const wchar_t* path) {
+  CPostscriptFontMetrics& metrics = PostscriptMetrics();
+  metrics.ReadPFBPFAFile(path);
+  m_pMetrics = &metrics;
+}
