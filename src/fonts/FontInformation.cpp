@@ -12,7 +12,7 @@ CFontInformation::CFontInformation(const CFontInformation& other) = default;
 
 CFontInformation::~CFontInformation() {
   delete m_pPostscriptMetrics;
-  delete static_cast<CFontMetrics*>(m_pTrueTypeMetrics);
+  delete m_pTrueTypeMetrics;
 }
 
 CFontInformation& CFontInformation::operator=(const CFontInformation& other) = default;
