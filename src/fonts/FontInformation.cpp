@@ -1,5 +1,6 @@
 #include "fonts/FontInformation.h"
 
+#include "fonts/Fonts.h"
 #include "fonts/PostscriptFontMetrics.h"
 #include "fonts/TrueTypeFontMetrics.h"
 
@@ -18,6 +19,14 @@ CFontInformation::~CFontInformation() {
 CFontInformation& CFontInformation::operator=(const CFontInformation& other) = default;
 
 CFontMetrics* CFontInformation::GetFontMetrics() const { return m_pMetrics; }
+
+CPDFCharCollName* CFontInformation::GetCharCollNameAt(CFontMetrics::CharColl collection) const {
+  return m_pOwner == nullptr ? nullptr : m_pOwner->GetCharCollNameAt(collection);
+}
+
+CEncodingInformation* CFontInformation::GetEncodingInformation(const wchar_t* internalName) const {
+  return m_pOwner == nullptr ? nullptr : m_pOwner->GetEncodingInformation(internalName);
+}
 
 CPostscriptFontMetrics& CFontInformation::PostscriptMetrics() {
   if (m_pPostscriptMetrics == nullptr) m_pPostscriptMetrics = new CPostscriptFontMetrics();

@@ -1,0 +1,87 @@
+#include "fonts/FontInformation.h"
+
+#include "fonts/EncodingInformation.h"
+#include "fonts/Encodings.h"
+#include "fonts/FontData.h"
+#include "fonts/Fonts.h"
+#include "fonts/GlobalFontHandler.h"
+#include "fonts/PDFCharCollName.h"
+#include "fonts/PostscriptFontMetrics.h"
+#include "fonts/ReadFont.h"
+#include "support/KeepForever.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+#include <type_traits>
+
+namespace {
+
+using zebtest::ReadFont;
+
+TEST(FontInformation, BeginsWithPostScriptMetrics) {
+  const CFontInformation font(nullptr);
+  ASSERT_NE(font.GetFontMetrics(), nullptr);
+  EXPECT_NE(dynamic_cast<CPostscriptFontMetrics*>(font.GetFontMetrics()), nullptr);
+  EXPECT_EQ(font.GetFontMetrics()->GetFontType(), CFontMetrics::FontTypeTrueType);
+  EXPECT_STREQ(font.GetFontMetrics()->GetEncoding(), L"winansi1252");
+}
+
+TEST(FontInformation, ACopySharesItsMetrics) {
+  auto& source = zebtest::KeepForever(new CFontInformation(nullptr));
+  const CFontInformation copy(source);
+  EXPECT_EQ(copy.GetFontMetrics(), source.GetFontMetrics());
+  auto& assigned = zebtest::KeepForever(new CFontInformation(nullptr));
+  CFontMetrics* const before = assigned.GetFontMetrics();
+  assigned = source;
+  EXPECT_EQ(assigned.GetFontMetrics(), source.GetFontMetrics());
+  // What was held before is not freed by the assignment.
+  delete before;
+}
+
+TEST(FontInformation, ForwardsToTheEncodingsOfItsHandler) {
+  const CGlobalFontHandler handler;
+  const CFontInformation font(handler.GetFonts());
+  EXPECT_EQ(font.GetEncodingInformation(L"winansi1252"),
+            handler.GetEncodings()->FindEncoding(L"winansi1252"));
+  EXPECT_NE(font.GetEncodingInformation(L"winansi1252"), nullptr);
+  EXPECT_EQ(font.GetEncodingInformation(L"none"), nullptr);
+  EXPECT_EQ(font.GetCharCollNameAt(CFontMetrics::CharCollJapan1),
+            handler.GetEncodings()->GetCharCollNameAt(CFontMetrics::CharCollJapan1));
+  EXPECT_NE(font.GetCharCollNameAt(CFontMetrics::CharCollJapan1), nullptr);
+}
+
+TEST(FontInformation, WithoutAListItKnowsNoEncodings) {
+  const CFontInformation font(nullptr);
+  EXPECT_EQ(font.GetEncodingInformation(L"winansi1252"), nullptr);
+  EXPECT_EQ(font.GetCharCollNameAt(CFontMetrics::CharCollJapan1), nullptr);
+}
+
+TEST(FontInformation, MetricsAndProgramOfAPostScriptFontGoIntoOneObject) {
+  ReadFont font;
+  CFontMetrics* const metrics = font.Font().GetFontMetrics();
+  ASSERT_EQ(font.AFMText("FontName Sample\nStartCharMetrics 1\nC 65 ; WX 7 ; N A ;\n"), L"");
+  ASSERT_EQ(font.ProgramBytes(std::string_view("\x80\x01\x02\0\0\0ab\x80\x03", 10)), L"");
+  EXPECT_EQ(font.Font().GetFontMetrics(), metrics);
+  EXPECT_STREQ(metrics->GetBaseFont(), L"Sample");
+  EXPECT_EQ(metrics->GetFontData()->GetLength1(), 2);
+}
+
+/// The place of a virtual operation in its class's table: a pointer to it holds the offset plus 1.
+template <class Member>
+std::size_t Slot(Member member) {
+  std::size_t offset = 0;
+  std::memcpy(&offset, &member, sizeof(offset));
+  return (offset - 1) / sizeof(void*);
+}
+
+TEST(FontInformation, VirtualOperationsStandInTheirOrder) {
+  // The destructor takes the first two places.
+  EXPECT_TRUE(std::has_virtual_destructor_v<CFontInformation>);
+  EXPECT_EQ(Slot(&CFontInformation::Load), 2U);
+  EXPECT_EQ(Slot(&CFontInformation::Save), 3U);
+}
+
+}  // namespace
