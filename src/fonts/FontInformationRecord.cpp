@@ -34,6 +34,8 @@ struct Field {
   Value (Object::*Get)() const;
   void (Object::*Set)(Value);
 };
+template <class Object, class Value>
+Field(ElementName, Value (Object::*)() const, void (Object::*)(Value)) -> Field<Object, Value>;
 
 // The fields in the order of the file.
 constexpr auto kScalars = std::tuple{
@@ -80,11 +82,12 @@ constexpr auto kCodeRange = std::tuple{
     Field{L"LastChar", &CFontMetrics::GetLastChar, &CFontMetrics::SetLastChar},
 };
 
-constexpr Field kUnicodeFont = {L"UnicodeFont", &CFontMetrics::GetUnicodeFont, &CFontMetrics::SetUnicodeFont};
-constexpr Field kBold = {L"Bold", &CFontMetrics::GetBold, &CFontMetrics::SetBold};
-constexpr Field kItalic = {L"Italic", &CFontMetrics::GetItalic, &CFontMetrics::SetItalic};
-constexpr Field kFontFamilyName = {L"FontFamilyName", &CFontMetrics::GetFontFamilyName,
-                                   &CFontMetrics::SetFontFamilyName};
+constexpr auto kUnicodeFont =
+    Field{L"UnicodeFont", &CFontMetrics::GetUnicodeFont, &CFontMetrics::SetUnicodeFont};
+constexpr auto kBold = Field{L"Bold", &CFontMetrics::GetBold, &CFontMetrics::SetBold};
+constexpr auto kItalic = Field{L"Italic", &CFontMetrics::GetItalic, &CFontMetrics::SetItalic};
+constexpr auto kFontFamilyName =
+    Field{L"FontFamilyName", &CFontMetrics::GetFontFamilyName, &CFontMetrics::SetFontFamilyName};
 
 template <class Object, class Value>
 void Read(RecordReader& record, const Field<Object, Value>& field, Object& object) {
