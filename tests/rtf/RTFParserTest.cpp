@@ -444,11 +444,16 @@ TEST(RTFParser, CopySharesWhatItsSourceOwns) {
   std::string data = "{\\fonttbl{\\f0 Arial;}}{open";
   auto& source = zebtest::KeepForever(new Parser(reinterpret_cast<unsigned char*>(data.data()),
                                                  static_cast<int>(data.size()), nullptr, nullptr));
-  auto& assigned = zebtest::KeepForever(new Parser(source));
   EXPECT_EQ(source.RtfParse(), Parser::rtfUnmatchedBrace);
   const Parser& copy = zebtest::KeepForever(new Parser(source));
   EXPECT_EQ(copy.GetTextContent(), source.GetTextContent());
   EXPECT_EQ(copy.GetFontAtID(0), source.GetFontAtID(0));
+  // What the target of an assignment owned is kept by its own copy, since it is not freed.
+  auto& target = zebtest::KeepForever(new Parser(nullptr, 0, nullptr, nullptr));
+  zebtest::KeepForever(new Parser(target));
+  target = source;
+  EXPECT_EQ(target.GetTextContent(), L"\n\nopen");
+  EXPECT_EQ(target.GetFontAtID(0), source.GetFontAtID(0));
 }
 
 TEST(RTFParser, HasAVirtualDestructor) { EXPECT_TRUE(std::has_virtual_destructor_v<Parser>); }
