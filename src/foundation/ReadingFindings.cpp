@@ -41,33 +41,47 @@ struct Reason {
 /// Goes through the children of one element that was read and says which of them were left out.
 class ChildrenCheck {
  public:
-  ChildrenCheck(const CXMLNode& parent, const ReadElement& record, const ReadingNotes& notes)
-      : m_Parent(parent), m_Record(record), m_Notes(notes), m_ppFirst(XMLTree::ChildrenOf(parent)) {
+  ChildrenCheck(const CXMLNode& parent, bool isText, const ReadingNotes& notes)
+      : m_Parent(parent),
+        m_bIsText(isText),
+        m_Record(RecordOf(parent, notes)),
+        m_Notes(notes),
+        m_ppFirst(XMLTree::ChildrenOf(parent)) {
     for (CXMLNode** child = m_ppFirst; *child != nullptr; ++child) ++m_rgBrothers[NameOf(**child)].All;
   }
 
-  /// Calls `found` with each child, the name of its step in a path, and the reason if it was left out (else null).
+  /// Calls `found` with a child, its step in a path and the reason (null if it was taken): for each child that was left
+  /// out, and each that was taken and about which there may be more to say.
   template <class Found>
   void Run(Found found) {
     for (CXMLNode** place = m_ppFirst; *place != nullptr; ++place) {
       Brothers& brothers = m_rgBrothers[NameOf(**place)];
       ++brothers.Met;
-      const std::wstring step = StepOf(**place, brothers);
       const ReadElement* read = m_Notes.Find(*place);
       if (!IsTaken(read)) {
         const Reason reason = ReasonOf(place, brothers);
-        found(**place, step, &reason);
+        found(**place, StepOf(**place, brothers), &reason);
       } else if (IsOneTooMany(*read, brothers)) {
         const Reason reason = TooMany(brothers.LookedInto, brothers.LastTaken);
-        found(**place, step, &reason);
+        found(**place, StepOf(**place, brothers), &reason);
       } else {
         NoteTaken(**place, *read, brothers);
-        found(**place, step, nullptr);
+        if (MayHoldMore(**place)) found(**place, StepOf(**place, brothers), nullptr);
       }
     }
   }
 
  private:
+  static const WalkedRecord& RecordOf(const CXMLNode& parent, const ReadingNotes& notes) {
+    static const WalkedRecord s_NotWalked;
+    const auto found = notes.Records.find(&parent);
+    return found == notes.Records.end() ? s_NotWalked : found->second;
+  }
+
+  bool MayHoldMore(const CXMLNode& child) const {
+    return XMLTree::HasChildren(child) || m_Notes.Identifiers.contains(&child);
+  }
+
   static std::wstring StepOf(const CXMLNode& child, const Brothers& brothers) {
     std::wstring step = L"/" + std::wstring(NameOf(child));
     if (brothers.All > 1) step += L"[" + std::to_wstring(brothers.Met) + L"]";
@@ -104,7 +118,7 @@ class ChildrenCheck {
 
   Reason ReasonOf(CXMLNode** place, const Brothers& brothers) const {
     const std::wstring name(NameOf(**place));
-    if (m_Record.IsText) {
+    if (m_bIsText) {
       return {ReadingFault::UnknownName,
               std::wstring(NameOf(m_Parent)) + L" is read as a text without elements"};
     }
@@ -158,10 +172,11 @@ class ChildrenCheck {
                 (later->second == m_pLastTaken ? std::wstring(L"it") : NameAndLine(*later->second))};
   }
 
-  const CXMLNode& m_Parent;     // observer
-  const ReadElement& m_Record;  // observer
-  const ReadingNotes& m_Notes;  // observer
-  CXMLNode** m_ppFirst;         // observer
+  const CXMLNode& m_Parent;  // observer
+  bool m_bIsText;
+  const WalkedRecord& m_Record;  // observer
+  const ReadingNotes& m_Notes;   // observer
+  CXMLNode** m_ppFirst;          // observer
   std::map<std::wstring_view, Brothers> m_rgBrothers;
   std::vector<std::pair<unsigned int, const CXMLNode*>> m_rgTaken;  // in order of their events, which rise
   const CXMLNode* m_pLastTaken = nullptr;                           // observer
@@ -188,14 +203,14 @@ std::vector<ReadingFinding> FindUnread(const CXMLNode& root, const ReadingNotes&
     open.pop_back();
     if (const auto note = notes.Identifiers.find(element.Node); note != notes.Identifiers.end()) {
       const IdentifierNote& identifier = note->second;
-      if (!identifier.Awaited || !notes.Records.contains(*identifier.Awaited)) {
+      if (!identifier.Awaited || !notes.RecordIDs.contains(*identifier.Awaited)) {
         findings.push_back(MakeFinding(*element.Node, element.Path, identifier.Fault, identifier.Text));
       }
     }
     // What was accepted without a look has nothing in it that anybody wanted.
     const ReadElement* read = notes.Find(element.Node);
     if (read == nullptr || read->IsRefused || !read->IsLookedInto) continue;
-    ChildrenCheck(*element.Node, *read, notes)
+    ChildrenCheck(*element.Node, read->IsText, notes)
         .Run([&](const CXMLNode& child, const std::wstring& step, const Reason* reason) {
           if (reason != nullptr) {
             findings.push_back(MakeFinding(child, element.Path + step, reason->Fault, reason->Text));

@@ -29,15 +29,19 @@ struct AskedName {
   unsigned int LastTakingWalk = 0;
 };
 
-/// What a reading did with an element, and what it asked for among the element's children.
+/// What a reading did with an element. There is one for each, so it is small.
 struct ReadElement {
   unsigned int TakenAt = 0;   // the event of the parent that took it by its name, 0 if none did
   unsigned int PassedAt = 0;  // the event of the parent that passed it whatever its name, 0 if none did
   bool IsText = false;        // its text was read
   bool IsLookedInto = false;  // its text, bytes or children were read
   bool IsRefused = false;     // it was left out after a look at its identifier
-  unsigned int Walks = 0;     // over its children
-  unsigned int Events = 0;    // of these walks
+};
+
+/// What the walks over an element's children asked for.
+struct WalkedRecord {
+  unsigned int Walks = 0;
+  unsigned int Events = 0;  // of all of them
   std::map<ElementName, AskedName> Asked;
   ElementName Missing;  // the child without which nothing else is read; empty if none is missing
   zebxmln::CXMLNode** MissingPlace = nullptr;  // observer: where it should stand
@@ -53,8 +57,9 @@ struct IdentifierNote {
 /// All that was noted while one document was read.
 struct ReadingNotes {
   std::unordered_map<const zebxmln::CXMLNode*, ReadElement> Elements;
+  std::unordered_map<const zebxmln::CXMLNode*, WalkedRecord> Records;
   std::unordered_map<const zebxmln::CXMLNode*, IdentifierNote> Identifiers;
-  std::set<int> Records;  // the identifiers of the records that were read
+  std::set<int> RecordIDs;  // of the records that were read
 
   const ReadElement* Find(const zebxmln::CXMLNode* node) const {
     const auto found = Elements.find(node);

@@ -11,7 +11,7 @@ namespace zeb {
 using zebxmln::CXMLNode;
 
 RecordWalk::RecordWalk(ReadingNotes& notes, const CXMLNode& record)
-    : m_Notes(notes), m_Record(notes.Elements[&record]), m_uiNumber(++m_Record.Walks) {}
+    : m_Notes(notes), m_Record(notes.Records[&record]), m_uiNumber(++m_Record.Walks) {}
 
 void RecordWalk::Ask(ElementName name, CXMLNode** place, bool isThere) {
   AskedName& asked = m_Record.Asked[name];

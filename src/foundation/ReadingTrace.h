@@ -23,7 +23,7 @@ class RecordWalk {
 
  private:
   ReadingNotes& m_Notes;                         // observer
-  ReadElement& m_Record;                         // observer: in the notes
+  WalkedRecord& m_Record;                        // observer: in the notes
   unsigned int m_uiNumber;                       // among the walks over the record
   ElementName m_Found;                           // the last name that was asked for and found
   zebxmln::CXMLNode** m_ppFoundPlace = nullptr;  // observer: where it was found
@@ -61,7 +61,7 @@ class ReadingTrace {
   void NoteText(const zebxmln::CXMLNode& element);
 
   /// A record has this identifier for its own.
-  void NoteRecord(int id) { m_Notes.Records.insert(id); }
+  void NoteRecord(int id) { m_Notes.RecordIDs.insert(id); }
   /// A record was left out because no object of its class has its identifier.
   /// @param id nothing if the record does not begin with the identifier
   void NoteRefusedRecord(const zebxmln::CXMLNode& record, ElementName identifier, std::optional<int> id);
