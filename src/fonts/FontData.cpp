@@ -83,9 +83,14 @@ void CFontData::AddFontData(int fileHandle, int count) {
 
 void CFontData::AddFontMemData(void* data, int count) {
   if (data == nullptr || count <= 0) return;
+  std::memcpy(ExtendContent(count), data, static_cast<std::size_t>(count));
+}
+
+unsigned char* CFontData::ExtendContent(int count) {
   ReAllocFontData(count);
-  std::memcpy(m_pBuffer + m_iLength, data, static_cast<std::size_t>(count));
+  unsigned char* const room = m_pBuffer + m_iLength;
   m_iLength += count;
+  return room;
 }
 
 unsigned char* CFontData::GetData() const { return m_pBuffer; }

@@ -2,6 +2,10 @@
 
 #include "platform/Export.h"
 
+namespace zeb {
+class TrueTypeReader;
+}
+
 /// A growing block of bytes with a cursor. It holds a font program (or a picture) as read, is parsed in place
 /// with big-endian readers, and is the target into which a subset font program is assembled.
 ///
@@ -110,7 +114,11 @@ class ZEB_EXPORT CFontData {
   bool m_bGrowing;
 
  private:
+  friend class zeb::TrueTypeReader;
+
   void Grow(long long chunks);
+  /// Adds zeroed bytes to the content, for a reader that fills them in place; gives the first one.
+  unsigned char* ExtendContent(int count);
   void MakeRoomAtCursor(int count);
   unsigned int BigEndianAt(long long pos, int count) const;
   void WriteBigEndianAtPos(int pos, unsigned int value, int count);

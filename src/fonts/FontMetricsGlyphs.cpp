@@ -39,7 +39,8 @@ int CFontMetrics::ConvertTTToPDF(int value) const {
 }
 
 void CFontMetrics::AddUnicodeToGlyphIndex(unsigned short code, unsigned short glyph) {
-  m_CodeToGlyph.emplace(code, glyph);
+  // Readers come with ascending codes.
+  m_CodeToGlyph.emplace_hint(m_CodeToGlyph.end(), code, glyph);
 }
 
 bool CFontMetrics::FindGlyphIndex(unsigned short code, unsigned short& glyph) const {

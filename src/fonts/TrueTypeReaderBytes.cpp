@@ -1,0 +1,90 @@
+#include "fonts/FontData.h"
+#include "fonts/TrueTypeCollection.h"
+#include "fonts/TrueTypeFontMetrics.h"
+#include "fonts/TrueTypeReader.h"
+#include "platform/File.h"
+#include "platform/InstalledFont.h"
+
+#include <climits>
+#include <cstddef>
+#include <span>
+#include <utility>
+
+namespace zeb {
+
+namespace {
+
+constexpr std::size_t kLongestFaceName = 32;
+constexpr std::uint64_t kSmallestFont = 10;
+constexpr std::uint32_t kTrueTypeVersion = 0x00010000;
+constexpr std::uint32_t kOpenTypeTag = 0x4F54544F;    // "OTTO"
+constexpr std::uint32_t kCollectionTag = 0x74746366;  // "ttcf"
+
+}  // namespace
+
+TrueTypeStatus TrueTypeReader::FetchBytes() {
+  if (m_request.filePath != nullptr) return FetchFile();
+  if (m_request.faceName != nullptr && !m_request.reuseData) return FetchInstalledFont();
+  return m_request.reuseData ? FindFontInData() : kTrueTypeBadArguments;
+}
+
+std::span<std::byte> TrueTypeReader::MakeRoomForFont(int size) {
+  CFontData*& data = m_metrics.m_pFontData;
+  if (data == nullptr || data->GetLength() != 0) {
+    // Another font's program, or that of a font that was refused. The pool's data stays the pool's.
+    if (m_metrics.m_bFontDataOwner) delete std::exchange(data, nullptr);
+    data = new CFontData(false);
+    m_metrics.m_bFontDataOwner = true;
+    delete std::exchange(m_metrics.m_pSubsetData, nullptr);
+  }
+  unsigned char* const room = data->ExtendContent(size);
+  m_bytes = ByteReader(data->GetData(), data->GetLength());
+  return std::as_writable_bytes(std::span(room, static_cast<std::size_t>(size)));
+}
+
+TrueTypeStatus TrueTypeReader::FetchFile() {
+  if (*m_request.filePath == L'\0' || m_metrics.m_iFileHandle != -1) return kTrueTypeBadArguments;
+  InputFile file;
+  if (file.Open(m_request.filePath) != FileStatus::Ok || file.Size() == 0) return kTrueTypeUnreadableFile;
+  if (file.Size() > INT_MAX) return kTrueTypeNoMemory;
+  m_metrics.SetFontType(CFontMetrics::FontTypeTrueType);
+  const std::span<std::byte> room = MakeRoomForFont(static_cast<int>(file.Size()));
+  std::size_t count = 0;
+  const FileStatus status = file.Read(room, count);
+  // Fixed behaviour: a collection is not looked into here, so it lacks every table.
+  return status == FileStatus::Ok && count == room.size() ? kTrueTypeDone : kTrueTypeUnreadableFile;
+}
+
+TrueTypeStatus TrueTypeReader::FetchInstalledFont() {
+  const std::wstring_view name = m_request.faceName;
+  if (name.empty() || name.size() > kLongestFaceName) return kTrueTypeBadArguments;
+  InstalledFont font;
+  if (!font.Open({std::wstring(name), m_request.bold, m_request.italic, m_encoding == L"1250"}))
+    return kTrueTypeNotThere;
+  if (font.Size() < kSmallestFont) return kTrueTypeNotThere;
+  if (font.Size() > INT_MAX) return kTrueTypeNoMemory;
+  if (!font.Read(MakeRoomForFont(static_cast<int>(font.Size())))) return kTrueTypeNotThere;
+  std::uint32_t tag = 0;
+  if (!ByteReader(m_bytes).ReadU32BE(tag)) return kTrueTypeIncorrect;
+  if (tag == kOpenTypeTag) {
+    m_metrics.SetFontType(CFontMetrics::FontTypeOpenType);
+    return kTrueTypeDone;
+  }
+  m_metrics.SetFontType(CFontMetrics::FontTypeTrueType);
+  if (tag == kTrueTypeVersion) return kTrueTypeDone;
+  return tag == kCollectionTag ? FindFontInData() : kTrueTypeIncorrect;
+}
+
+TrueTypeStatus TrueTypeReader::FindFontInData() {
+  CFontData* const data = m_metrics.m_pFontData;
+  if (data == nullptr) return kTrueTypeIncorrect;
+  data->ResetFontPos();
+  m_bytes = ByteReader(data->GetData(), data->GetLength());
+  const std::int64_t offset = FindCollectionFont(m_request.faceName, m_bytes, m_usLanguage);
+  if (offset == 0) return kTrueTypeNotThere;
+  m_uFontOffset = offset > 0 ? static_cast<std::uint32_t>(offset) : 0;
+  m_metrics.SetFontType(CFontMetrics::FontTypeTrueType);
+  return kTrueTypeDone;
+}
+
+}  // namespace zeb
