@@ -22,6 +22,9 @@ constexpr Command kCommands[] = {
     {L"eval", L"FORMULA --scan", L"lists the variables that a formula reads", RunEval},
     {L"eval", L"FORMULA --replace OLD=NEW ...", L"prints a formula with other names for its variables",
      RunEval},
+    {L"rtf", L"dump FILE", L"prints what the reader says of a rich text file, one line per event", RunRtf},
+    {L"rtf", L"text FILE", L"prints the text of a rich text file", RunRtf},
+    {L"rtf", L"html FILE [-o OUT]", L"makes an HTML page that looks like a rich text file", RunRtf},
     {L"help", L"", L"prints this text", RunHelp},
 };
 

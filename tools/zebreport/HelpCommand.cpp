@@ -4,7 +4,7 @@ namespace zebreport {
 
 int RunHelp(ArgumentReader& arguments, std::wstring& output) {
   arguments.TakeRest({});
-  output += L"zebreport looks into report and layout files and their formulas.\n\n";
+  output += L"zebreport looks into report and layout files, their formulas and rich texts.\n\n";
   for (const Command& command : AllCommands()) {
     output += std::wstring(L"  zebreport ") + command.name;
     if (*command.usage != L'\0') output += std::wstring(L" ") + command.usage;

@@ -1,0 +1,91 @@
+#include "RtfTable.h"
+
+namespace zebreport {
+
+namespace {
+
+/// The row that is being filled, null if there is none.
+const CRTFTableRow* RowOf(const CDocumentProperties& props) {
+  const bool hasRow = props.RowIndex >= 0 && static_cast<std::size_t>(props.RowIndex) < props.Rows.size();
+  return hasRow ? props.Rows[static_cast<std::size_t>(props.RowIndex)] : nullptr;
+}
+
+TablePlace PlaceAt(const CDocumentProperties& props, int column) {
+  TablePlace place{RowOf(props), column};
+  if (place.row == nullptr || column < 0) return place;
+  const std::vector<CRTFTableCell*>& cells = place.row->Cells;
+  const auto index = static_cast<std::size_t>(column);
+  if (index >= cells.size()) return place;
+  place.cell = cells[index];
+  const int left = column == 0 ? props.RowLeft : cells[index - 1]->RightEdge;
+  place.width = place.cell->RightEdge > left ? place.cell->RightEdge - left : 0;
+  return place;
+}
+
+/// Whether there is no cell behind that place.
+bool IsRowFull(const TablePlace& place) {
+  const std::size_t count = place.row == nullptr ? 0 : place.row->Cells.size();
+  return place.column < 0 || static_cast<std::size_t>(place.column) + 1 >= count;
+}
+
+}  // namespace
+
+TableStep TableWalk::Next(const std::wstring& text, const CRTFContext& context) {
+  const CRTFState& state = *context.State;
+  TableStep step;
+  step.ignored = context.TableEnd != 0 && text.empty() && context.Picture == nullptr;
+  if (step.ignored) {
+    NoteTableEnd(state.ParProps.InTable != 0);
+    return step;
+  }
+  if (state.ParProps.InTable == 0 && (state.DocProps.CellIndex < 0 || !RowGoesOn(state.DocProps))) {
+    step.endsTable = m_inTable;
+    *this = TableWalk();
+    return step;
+  }
+  FindPlace(state.DocProps, step);
+  m_inTable = true;
+  m_last = step.place;
+  m_counted = state.DocProps.CellIndex;
+  m_cellEnded = context.ParagraphEnd != 0 && state.ParProps.InTable != 0;
+  return step;
+}
+
+void TableWalk::NoteTableEnd(bool isReset) {
+  if (!isReset) m_last.reset();
+  m_rowBegun = isReset && !m_last.has_value();
+}
+
+bool TableWalk::RowGoesOn(const CDocumentProperties& props) const {
+  if (!m_last.has_value()) return m_rowBegun;
+  return RowOf(props) != m_last->row || !m_cellEnded || !IsRowFull(*m_last);
+}
+
+void TableWalk::FindPlace(const CDocumentProperties& props, TableStep& step) const {
+  TablePlace place = PlaceAt(props, props.CellIndex);
+  step.startsCell = true;
+  if (!m_last.has_value()) {
+    step.startsTable = !m_inTable;
+    step.startsRow = m_inTable;
+  } else if (place.row != m_last->row || (place.column >= 0 && place.column < m_counted)) {
+    step.startsRow = true;
+  } else if (place.column == m_counted && !m_cellEnded) {
+    step.startsCell = false;
+    place = *m_last;
+  } else if (place.column == m_counted && IsRowFull(*m_last)) {
+    step.startsRow = true;
+  } else if (place.column == m_counted || place.column < 0) {
+    place = PlaceAt(props, m_last->column + 1);
+  }
+  step.place = place;
+}
+
+std::wstring ListMark(const CRTFContext& context) {
+  // A list stays in force behind its last paragraph. Paragraphs of lists alone have both indents.
+  const CParagraphProperties& props = context.State->ParProps;
+  if (context.List == nullptr || props.LeftIndent == 0) return {};
+  const std::wstring mark = context.Level == nullptr ? L"" : context.Level->GetListText();
+  return mark.empty() && props.FirstIndent != 0 ? L"\u2022\t" : mark;
+}
+
+}  // namespace zebreport

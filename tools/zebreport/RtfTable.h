@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ZEBReportDocument.h"
+
+#include <optional>
+#include <string>
+
+namespace zebreport {
+
+/// Where in a table a run of text stands.
+struct TablePlace {
+  const CRTFTableRow* row = nullptr;  ///< null if none is described
+  int column = -1;
+  int width = 0;                        ///< of the cell in twips, 0 if it is not known
+  const CRTFTableCell* cell = nullptr;  ///< as it is described, null if it is not
+};
+
+/// What a run of text means for the tables of a document.
+struct TableStep {
+  bool ignored = false;    ///< says that a table ends and nothing else
+  bool endsTable = false;  ///< the table before it has ended
+  bool startsTable = false;
+  bool startsRow = false;  ///< of a table that has one already
+  bool startsCell = false;
+  std::optional<TablePlace> place;  ///< nothing outside of tables
+};
+
+/// Finds out which runs of a document stand in which cell. A run says in its state which row and cell are filled.
+/// - Where a row's description is filled more than once, its cells start again.
+/// - Where each cell is a group of its own, their count does not go on: the cell that ends makes room for the next one
+///   until the row is full.
+/// - A reset of the paragraph inside of a row says that the table ends; the row goes on until it is full. So do the cells
+///   behind it, although their runs are in no table.
+class TableWalk {
+ public:
+  TableStep Next(const std::wstring& text, const CRTFContext& context);
+
+ private:
+  /// @param isReset whether a reset of the paragraph says so, and not the end of a group
+  void NoteTableEnd(bool isReset);
+  /// Whether a run that is in no table stands in a row for all that.
+  bool RowGoesOn(const CDocumentProperties& props) const;
+  void FindPlace(const CDocumentProperties& props, TableStep& step) const;
+
+  bool m_inTable = false;
+  std::optional<TablePlace> m_last;  // of the last run in the table
+  int m_counted = -1;                // the column that the state of that run said
+  bool m_cellEnded = false;          // with that run
+  bool m_rowBegun = false;           // its first cell began with a reset of the paragraph
+};
+
+/// The number or bullet in front of a paragraph with the tab or blank behind it; empty if it is in no list. A bullet
+/// where the document gives its mark too early for the reader, in front of the list's number.
+std::wstring ListMark(const CRTFContext& context);
+
+}  // namespace zebreport
