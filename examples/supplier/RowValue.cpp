@@ -1,0 +1,54 @@
+#include "RowValue.h"
+
+namespace supplier {
+
+const Value* RowSource::Find(const std::wstring& key) const {
+  for (const Row* values : {row, global}) {
+    if (values == nullptr) continue;
+    if (const auto found = values->find(key); found != values->end()) return &found->second;
+  }
+  return nullptr;
+}
+
+RowValue::RowValue(const RowSource& source, const std::wstring& key) : m_source(source) {
+  SetInternalKey(key.c_str());
+  SetExternalKey(key.c_str());
+  SetExternalDescription(L"");
+}
+
+void RowValue::CallGetValue() { m_pValue = m_source.Find(GetInternalKey()); }
+
+const wchar_t* RowValue::GetValueAsText() {
+  return m_pValue == nullptr || m_pValue->kind == Value::Kind::Number ? nullptr : m_pValue->text.c_str();
+}
+
+CDoubleElement* RowValue::GetValueAsDouble() {
+  if (m_pValue == nullptr || m_pValue->kind != Value::Kind::Number) return new CDoubleElement(0.0, 0);
+  return new CDoubleElement(m_pValue->number, m_pValue->decimals);
+}
+
+RowSupplier::RowSupplier(const ReportData& data) { m_source.global = &data.global; }
+
+void RowSupplier::OfferTo(CReportValueHolders& report) {
+  for (int i = 0; i < report.GetReportZoneCount(); ++i) {
+    CReportZone& zone = *report.GetRootElement()->GetReportDocument()->GetReportZoneAt(i);
+    for (int j = 0; j < report.GetReportZoneValueHolderCount(i); ++j) {
+      Offer(zone, report.GetReportZoneValueHolderInternalNameAt(i, j));
+    }
+    // What formulas that are only defined read is not among the zone's formula keys.
+    for (int j = 0; j < zone.GetDefinedFormulaValueHoldersCount(); ++j) {
+      zone.CollectFormulaVariables(zone.GetDefinedFormulaValueHolderAt(j)->GetFormula());
+    }
+    for (int j = 0; j < report.GetReportZoneFormulaValueHolderKeyCount(i); ++j) {
+      Offer(zone, report.GetReportZoneFormulaValueHolderKeyAt(i, j));
+    }
+  }
+}
+
+void RowSupplier::Offer(CReportZone& zone, const wchar_t* key) {
+  if (zone.GetAvailableValueHolder(key) != nullptr) return;
+  m_values.push_back(std::make_unique<RowValue>(m_source, key));
+  zone.AddAvailableValueHolder(m_values.back().get());
+}
+
+}  // namespace supplier
