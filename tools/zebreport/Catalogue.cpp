@@ -1,6 +1,7 @@
 #include "Catalogue.h"
 
 #include "Failure.h"
+#include "Utf8.h"
 #include "ZEBReportDocument.h"
 
 namespace zebreport {
@@ -25,7 +26,7 @@ std::filesystem::path FolderOfProgram(const std::filesystem::path& calledAs) {
 void UseCatalogue(const std::optional<std::wstring>& named, const std::filesystem::path& program) {
   std::filesystem::path folder;
   if (named.has_value()) {
-    folder = *named;
+    folder = ToPath(*named);
     if (!HoldsCatalogue(folder)) {
       throw UsageFailure(*named + L" holds no KXErrorMessages.xml; name the folder of the error catalogue.");
     }
@@ -34,7 +35,7 @@ void UseCatalogue(const std::optional<std::wstring>& named, const std::filesyste
     if (!HoldsCatalogue(folder)) folder = ZEBREPORT_SOURCE_CATALOGUE;
     if (!HoldsCatalogue(folder)) return;
   }
-  CKXExceptionHandler::GetInstance().SetExceptionPathName(folder.wstring().c_str());
+  CKXExceptionHandler::GetInstance().SetExceptionPathName(FromPath(folder).c_str());
 }
 
 }  // namespace zebreport

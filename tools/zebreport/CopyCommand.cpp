@@ -2,6 +2,7 @@
 #include "Failure.h"
 #include "LoadedReport.h"
 #include "ReportTree.h"
+#include "Utf8.h"
 
 #include <algorithm>
 #include <fstream>
@@ -23,13 +24,13 @@ struct ReportFiles {
 
 /// The path with the separator that the library looks for when it takes the file name of a layout.
 std::wstring ForLayoutName(const fs::path& path) {
-  std::wstring text = path.wstring();
+  std::wstring text = FromPath(path);
   std::replace(text.begin(), text.end(), L'/', L'\\');
   return text;
 }
 
 void Save(const LoadedReport& loaded, const ReportFiles& files) {
-  const std::wstring report = files.report.wstring();
+  const std::wstring report = FromPath(files.report);
   const std::wstring layout = ForLayoutName(files.layout);
   try {
     loaded.Root().SaveReport(report.c_str(), layout.empty() ? nullptr : layout.c_str());
@@ -40,14 +41,14 @@ void Save(const LoadedReport& loaded, const ReportFiles& files) {
 
 std::string ReadBytes(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
-  if (!file) throw Failure(path.wstring() + L": the copy could not be read again; check the folder.");
+  if (!file) throw Failure(FromPath(path) + L": the copy could not be read again; check the folder.");
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 void RequireEqualBytes(const fs::path& first, const fs::path& second) {
   if (ReadBytes(first) != ReadBytes(second)) {
-    throw Failure(first.wstring() + L": saving the copy again gave other bytes, which are in " +
-                  second.wstring() + L"; compare the two files and report the difference.");
+    throw Failure(FromPath(first) + L": saving the copy again gave other bytes, which are in " +
+                  FromPath(second) + L"; compare the two files and report the difference.");
   }
 }
 
@@ -65,7 +66,7 @@ int CountFonts(const fs::path& path) {
   if (path.empty()) return 0;
   try {
     zebxmln::CXMLDocument* document = zebxmln::CXMLManager::GetInstance().LoadDocument(
-        path.wstring().c_str(), true, false, nullptr, false, false);
+        FromPath(path).c_str(), true, false, nullptr, false, false);
     zebxmln::CXMLNode* root = document->GetRootNode();
     int count = CountChildren(root, L"FontInformation");
     for (zebxmln::CXMLNode** child = root->GetChildNodes(); *child != nullptr; ++child) {
@@ -76,14 +77,14 @@ int CountFonts(const fs::path& path) {
     document->DestroyDocument();
     return count;
   } catch (const zebxmln::CXMLException& exception) {
-    throw Failure(path.wstring() + L": " + exception.GetErrorMessage());
+    throw Failure(FromPath(path) + L": " + exception.GetErrorMessage());
   }
 }
 
 void RequireOtherFile(const fs::path& source, const fs::path& copy) {
   std::error_code error;
   if (fs::equivalent(source, copy, error) && !error) {
-    throw Failure(copy.wstring() + L": the copy would overwrite what it is made from; choose another name.");
+    throw Failure(FromPath(copy) + L": the copy would overwrite what it is made from; choose another name.");
   }
 }
 
@@ -113,7 +114,7 @@ void CheckCopy(const ReportFiles& copy, const std::wstring& tree) {
   const std::wstring copied = ReportTreeAsSaved(loaded.Root()).text;
   if (copied != tree) {
     const auto [source, changed] = FirstDifference(tree, copied);
-    throw Failure(copy.report.wstring() + L": where the source says '" + source + L"' the copy says '" +
+    throw Failure(FromPath(copy.report) + L": where the source says '" + source + L"' the copy says '" +
                   changed + L"'; files do not keep that value, so set it anew in the copy.");
   }
   // The name of the layout stands in the report, so the second layout has the same name in a folder of its own.
@@ -143,11 +144,11 @@ SavedTree MakeCopy(const ReportFiles& source, const ReportFiles& copy) {
 int RunCopy(ArgumentReader& arguments, std::wstring& output) {
   const auto layouts = arguments.TakeOption(L"--layout", 2);
   const std::vector<std::wstring> names = arguments.TakeRest({L"report file", L"name of the copy"});
-  ReportFiles source{names[0], {}};
-  ReportFiles copy{names[1], {}};
+  ReportFiles source{ToPath(names[0]), {}};
+  ReportFiles copy{ToPath(names[1]), {}};
   if (layouts.has_value()) {
-    source.layout = layouts->at(0);
-    copy.layout = layouts->at(1);
+    source.layout = ToPath(layouts->at(0));
+    copy.layout = ToPath(layouts->at(1));
     RequireOtherFile(source.layout, copy.layout);
   }
   RequireOtherFile(source.report, copy.report);
@@ -155,8 +156,8 @@ int RunCopy(ArgumentReader& arguments, std::wstring& output) {
   const SavedTree tree = MakeCopy(source, copy);
   CheckCopy(copy, tree.text);
 
-  output += source.report.wstring() + (layouts.has_value() ? L" and its layout were" : L" was") +
-            L" copied to " + copy.report.wstring() +
+  output += FromPath(source.report) + (layouts.has_value() ? L" and its layout were" : L" was") +
+            L" copied to " + FromPath(copy.report) +
             L"; loaded again, the copy says the same and is saved with the same bytes.\n";
   if (tree.unsavedTies > 0) {
     output += L"Layout files keep no ties of table cells on pages; ties that the copy lacks: " +

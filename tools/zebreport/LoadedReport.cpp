@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "UnownedObjects.h"
+#include "Utf8.h"
 
 namespace zebreport {
 
@@ -30,11 +31,11 @@ void LoadedReport::LoadExactly(const std::filesystem::path& report, const std::f
 
 void LoadedReport::LoadWithLayout(const std::filesystem::path& report,
                                   const std::optional<std::wstring>& layout) {
-  if (layout.has_value()) return LoadExactly(report, *layout);
+  if (layout.has_value()) return LoadExactly(report, ToPath(*layout));
   LoadExactly(report, {});
   const std::wstring name = FileName(m_pRoot->GetReportDocument()->GetReportLayoutName());
   if (name.empty()) return;
-  const std::filesystem::path beside = report.parent_path() / name;
+  const std::filesystem::path beside = report.parent_path() / ToPath(name);
   std::error_code error;
   if (std::filesystem::exists(beside, error)) {
     m_layoutFile = beside;
@@ -49,7 +50,7 @@ void LoadedReport::LoadReportFile(const std::wstring& file) { m_pRoot->LoadRepor
 void LoadedReport::LoadLayoutFile(const std::wstring& file) { m_pRoot->LoadReport(nullptr, file.c_str()); }
 
 void LoadedReport::LoadReport() {
-  const std::wstring file = m_reportFile.wstring();
+  const std::wstring file = FromPath(m_reportFile);
   try {
     LoadReportFile(file);
   } catch (const CKXException& exception) {
@@ -61,7 +62,7 @@ void LoadedReport::LoadReport() {
 }
 
 void LoadedReport::LoadLayout() {
-  const std::wstring file = m_layoutFile.wstring();
+  const std::wstring file = FromPath(m_layoutFile);
   try {
     LoadLayoutFile(file);
   } catch (const CKXException& exception) {
@@ -73,10 +74,10 @@ void LoadedReport::LoadLayout() {
 }
 
 std::wstring LoadedReport::DescribeFiles() const {
-  std::wstring text = L"report " + m_reportFile.wstring() + L"\n";
-  if (!m_layoutFile.empty()) text += L"layout " + m_layoutFile.wstring() + L"\n";
+  std::wstring text = L"report " + FromPath(m_reportFile) + L"\n";
+  if (!m_layoutFile.empty()) text += L"layout " + FromPath(m_layoutFile) + L"\n";
   if (!m_missingLayout.empty()) {
-    text += L"no layout: " + m_missingLayout.wstring() +
+    text += L"no layout: " + FromPath(m_missingLayout) +
             L", which the report names, is not there; name one with --layout\n";
   }
   return text;

@@ -3,6 +3,7 @@
 #include "LoadedReport.h"
 #include "Names.h"
 #include "TextFormat.h"
+#include "Utf8.h"
 
 namespace zebreport {
 
@@ -84,7 +85,7 @@ int RunOrder(ArgumentReader& arguments, std::wstring& output) {
   const auto layout = arguments.TakeOption(L"--layout", 1);
   const std::wstring report = arguments.TakeRest({L"report file"}).front();
   LoadedReport loaded;
-  loaded.LoadWithLayout(report, layout.has_value() ? std::optional(layout->front()) : std::nullopt);
+  loaded.LoadWithLayout(ToPath(report), layout.has_value() ? std::optional(layout->front()) : std::nullopt);
   output += loaded.DescribeFiles();
   OrderWriter writer(loaded.Root(), output);
   try {
