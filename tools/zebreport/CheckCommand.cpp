@@ -1,6 +1,7 @@
 #include "Commands.h"
 #include "FileCheck.h"
 #include "JsonWriter.h"
+#include "TypeCheck.h"
 
 namespace zebreport {
 
@@ -54,6 +55,8 @@ void WriteJson(const std::wstring& file, const std::vector<zeb::ReadingFinding>&
 }  // namespace
 
 int RunCheck(ArgumentReader& arguments, std::wstring& output) {
+  if (const auto type = arguments.TakeOption(L"--type", 1))
+    return RunTypeCheck(arguments, type->front(), output);
   const bool isJson = arguments.TakeOption(L"--json", 0).has_value();
   const std::wstring file = arguments.TakeRest({L"file"}).front();
   const std::vector<zeb::ReadingFinding> findings = CheckFile(file);

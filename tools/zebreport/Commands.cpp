@@ -17,6 +17,8 @@ constexpr Command kCommands[] = {
      RunDescriptions},
     {L"check", L"FILE [--json]",
      L"lists the elements of any XML file of the library that loading leaves out, and why", RunCheck},
+    {L"check", L"REPORT --type TYPEFILE [--json]",
+     L"lists what a report needs that its report type does not offer", RunCheck},
     {L"eval", L"FORMULA [NAME=VALUE ...] [--string NAME=TEXT ...]",
      L"computes a formula with the given variables", RunEval},
     {L"eval", L"FORMULA --scan", L"lists the variables that a formula reads", RunEval},
