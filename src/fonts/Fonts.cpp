@@ -154,7 +154,18 @@ const wchar_t* CFonts::GetUniqueFontName(const wchar_t* name, int bold, bool ita
     if (AnswerFromNames(*MetricsOf(*found), name, uniqueName)) return uniqueName;
   }
   const wchar_t* const unique = CFontPool::GetInstance().FindUniqueName(name);
-  return unique == nullptr ? nullptr : StoreIn(m_UniqueNames, name, unique);
+  return unique == nullptr ? LearnUniqueName(name, bold, italic) : StoreIn(m_UniqueNames, name, unique);
+}
+
+const wchar_t* CFonts::LearnUniqueName(const wchar_t* name, int bold, bool italic) {
+  try {
+    CFontInformation font(this);
+    font.ReadTT(name, nullptr, nullptr, true, false, bold, italic);
+    return StoreIn(m_UniqueNames, name, font.GetFontMetrics()->GetBaseFont());
+  } catch (const CKXException&) {
+    // Fixed behaviour: the next question for the name asks the system again.
+    return nullptr;
+  }
 }
 
 bool CFonts::AnswerFromNames(const CFontMetrics& metrics, const wchar_t* name, const wchar_t*& uniqueName) {

@@ -84,6 +84,9 @@ class ZEB_EXPORT CFonts {
   bool IsNamed(const Entry& entry, std::wstring_view name, int bold, bool italic) const;
   const Entry* Find(const wchar_t* name, int bold, bool italic) const;
   bool AnswerFromNames(const CFontMetrics& metrics, const wchar_t* name, const wchar_t*& uniqueName);
+  /// Asks the operating system for the font, only to learn its name.
+  /// @return null if the system does not give the font
+  const wchar_t* LearnUniqueName(const wchar_t* name, int bold, bool italic);
   CEncodings* HandlersEncodings() const;
   /// Moves over the fonts of another list that are not built in and that this list cannot find, see
   /// CGlobalFontHandler::AddAnotherFontHandler.

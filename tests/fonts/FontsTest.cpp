@@ -366,4 +366,26 @@ TEST_F(Fonts, WhatIsUnknownMayBecomeKnown) {
   EXPECT_STREQ(Unique(L"Muster 123"), L"Sample");
 }
 
+TEST_F(Fonts, AnInstalledFontGivesItsFullName) {
+  EXPECT_STREQ(Unique(L"dejavu sans mono"), L"DejaVu Sans Mono");
+  EXPECT_STREQ(m_fonts.GetUniqueFontName(L"DejaVu Sans", kBoldWeight, false), L"DejaVu Sans Bold");
+  EXPECT_STREQ(Unique(L"IPA\x30B4\x30B7\x30C3\x30AF"), L"IPAGothic");
+}
+
+TEST_F(Fonts, AFontThatWasOnlyReadForItsNameIsNotInTheList) {
+  const wchar_t* const answer = Unique(L"DejaVu Sans Mono");
+  EXPECT_EQ(m_fonts.GetFontCount(), 25);
+  EXPECT_EQ(Find(L"DejaVu Sans Mono"), nullptr);
+  EXPECT_EQ(Unique(L"DejaVu Sans Mono"), answer) << "what is answered stays so";
+}
+
+TEST_F(Fonts, AnInstalledFontOfThePoolIsAskedOfThePool) {
+  Pool(L"Sample", {L"DejaVu Sans Mono"});
+  EXPECT_STREQ(Unique(L"DejaVu Sans Mono"), L"Sample");
+}
+
+TEST_F(Fonts, ANameThatIsTooLongForAFaceHasNoUniqueOne) {
+  EXPECT_EQ(Unique(std::wstring(33, L'n').c_str()), nullptr);
+}
+
 }  // namespace

@@ -138,6 +138,14 @@ TEST(GlobalFontHandler, FixedMergingPassesOverWhatFollowsAMovedFont) {
   EXPECT_EQ(FontsOf(other), Names{});
 }
 
+TEST(GlobalFontHandler, FixedAMovedFontAsksTheOldHandler) {
+  CGlobalFontHandler handler;
+  CGlobalFontHandler other;
+  CFontInformation* const font = AddFont(other, L"Sample");
+  handler.AddAnotherFontHandler(&other);
+  EXPECT_EQ(font->GetEncodingInformation(L"winansi1252"), other.GetEncodings()->FindEncoding(L"winansi1252"));
+}
+
 TEST(GlobalFontHandler, MergingMovesEncodingsThatAreMissing) {
   CGlobalFontHandler handler;
   CGlobalFontHandler other;

@@ -167,4 +167,20 @@ TEST(TextDistancesByTables, WithoutTablesAreThoseOfTheBox) {
   ExpectExtent(withoutHhea, 222, 111);
 }
 
+/// In an em of 2048: Windows heights 1901 and 483, those of hhea the same, and no gap. The box is larger.
+TEST(TextDistancesByTables, OfAnInstalledFontAreInTheUnitOfTheFontSize) {
+  CGlobalFontHandler handler;
+  auto* const font = new CFontInformation(handler.GetFonts());
+  handler.GetFonts()->AddFont(font);
+  font->ReadTT(L"DejaVu Sans", nullptr, nullptr, true, false, 400, false);
+  CText text;
+  text.SetFontName(L"DejaVu Sans");
+  text.SetFontSize(10);
+  handler.CalculateOptimalTextDistances(&text);
+  ASSERT_NE(text.GetBorder(), nullptr);
+  EXPECT_FLOAT_EQ(text.GetBorder()->GetBaseLineToUpperDistance(), 9.28F);
+  EXPECT_FLOAT_EQ(text.GetBorder()->GetBaseLineToLowerDistance(), 2.36F);
+  EXPECT_FLOAT_EQ(text.GetLineSpacing(), 11.64F);
+}
+
 }  // namespace
