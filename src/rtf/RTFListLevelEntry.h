@@ -31,11 +31,11 @@ class ZEB_EXPORT CRTFListLevelEntry {
   /// Indent of the number, in twips.
   int GetLevelindent() const;
   void SetLevelindent(int levelindent);
-  /// Valid until the text is set anew. The reader leaves it empty: see GetListText.
+  /// Valid until the text is set anew. The reader drops all of it but `\u` characters: see GetListText.
   const wchar_t* GetLeveltext() const;
   /// Copies the text; null counts as empty. So do all setters of texts here.
   void SetLeveltext(const wchar_t* leveltext);
-  /// Valid until the text is set anew. The reader leaves it empty.
+  /// Valid until the text is set anew. The reader drops all of it but `\u` characters.
   const wchar_t* GetLevelnumbers() const;
   void SetLevelnumbers(const wchar_t* levelnumbers);
   CCharacterProperties GetCharProps() const;
