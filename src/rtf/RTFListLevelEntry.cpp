@@ -1,5 +1,7 @@
 #include "rtf/RTFListLevelEntry.h"
 
+#include <utility>
+
 namespace {
 
 std::wstring TextOf(const wchar_t* text) { return text == nullptr ? std::wstring() : std::wstring(text); }
@@ -43,7 +45,7 @@ void CRTFListLevelEntry::SetLevelnumbers(const wchar_t* levelnumbers) {
 CCharacterProperties CRTFListLevelEntry::GetCharProps() const { return m_CharProps; }
 void CRTFListLevelEntry::SetCharProps(CCharacterProperties charProps) { m_CharProps = charProps; }
 CParagraphProperties CRTFListLevelEntry::GetParProps() const { return m_ParProps; }
-void CRTFListLevelEntry::SetParProps(CParagraphProperties parProps) { m_ParProps = parProps; }
+void CRTFListLevelEntry::SetParProps(CParagraphProperties parProps) { m_ParProps = std::move(parProps); }
 
 const wchar_t* CRTFListLevelEntry::GetListText() const { return m_strListText.c_str(); }
 void CRTFListLevelEntry::SetListText(const wchar_t* listText) { m_strListText = TextOf(listText); }

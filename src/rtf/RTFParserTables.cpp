@@ -50,13 +50,12 @@ constexpr int kSimplifiedChinese = 936;
 /// Names whose double-byte characters were taken for 16-bit characters get them back.
 void RepairFontName(CRTFFont& font) {
   constexpr std::size_t kMostBytes = 255;
-  constexpr unsigned int kGreatestByte = 255;
+  constexpr wchar_t kGreatestByte = 255;
   std::vector<unsigned char> bytes;
   for (const wchar_t character : std::wstring(font.GetFontFaceName())) {
-    const auto code = static_cast<unsigned int>(character);
-    if (code <= kGreatestByte) return;
-    bytes.push_back(static_cast<unsigned char>(code >> 8U));
-    bytes.push_back(static_cast<unsigned char>(code));
+    if (character <= kGreatestByte) return;
+    bytes.push_back(static_cast<unsigned char>(character >> 8));
+    bytes.push_back(static_cast<unsigned char>(character));
   }
   bytes.resize(std::min(bytes.size(), kMostBytes));
   const std::optional<std::wstring> name = zeb::CodePage::Of(kSimplifiedChinese).Convert(bytes);

@@ -1,5 +1,7 @@
 #include "rtf/RTFStyleSheet.h"
 
+#include <utility>
+
 CRTFStyleSheet::CRTFStyleSheet() : m_iIndex(0) {}
 
 CRTFStyleSheet::CRTFStyleSheet(const CRTFStyleSheet& other) = default;
@@ -13,7 +15,7 @@ void CRTFStyleSheet::SetCharProps(CCharacterProperties charProps) { m_CharProps 
 CSectionProperties CRTFStyleSheet::GetSecProps() const { return m_SecProps; }
 void CRTFStyleSheet::SetSecProps(CSectionProperties secProps) { m_SecProps = secProps; }
 CParagraphProperties CRTFStyleSheet::GetParProps() const { return m_ParProps; }
-void CRTFStyleSheet::SetParProps(CParagraphProperties parProps) { m_ParProps = parProps; }
+void CRTFStyleSheet::SetParProps(CParagraphProperties parProps) { m_ParProps = std::move(parProps); }
 CFontProperties CRTFStyleSheet::GetFontProps() const { return m_FontProps; }
 void CRTFStyleSheet::SetFontProps(CFontProperties fontProps) { m_FontProps = fontProps; }
 int CRTFStyleSheet::GetStyleSheetIndex() const { return m_iIndex; }
