@@ -28,7 +28,8 @@ bool Iconv::IsOpen() const { return m_pHandle != reinterpret_cast<iconv_t>(-1); 
 std::optional<std::int32_t> Iconv::Convert(std::span<const unsigned char> bytes) const {
   std::array<char, 4> in = {};
   if (bytes.size() > in.size()) return std::nullopt;
-  std::copy(bytes.begin(), bytes.end(), in.begin());
+  // Bounded once more, since the optimizer of GCC 12 loses sight of the check above and warns.
+  std::copy_n(bytes.begin(), std::min(bytes.size(), in.size()), in.begin());
   std::array<char32_t, 4> out = {};
   char* inPosition = in.data();
   std::size_t inLeft = bytes.size();
