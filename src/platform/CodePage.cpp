@@ -55,14 +55,26 @@ const CodePage& CodePage::Of(int number) {
   return *s_Pages.emplace(number, std::move(page)).first->second;
 }
 
+const CodePage::PairTable& CodePage::PairsOf(unsigned char lead) const {
+  std::unique_ptr<const PairTable>& known = m_Pairs[lead];
+  if (known == nullptr) {
+    auto table = std::make_unique<PairTable>();
+    for (std::size_t second = 0; second < table->size(); ++second) {
+      const std::array<unsigned char, 2> bytes = {lead, static_cast<unsigned char>(second)};
+      (*table)[second] = m_pConverter->Convert(bytes).value_or(-1);
+    }
+    known = std::move(table);
+  }
+  return *known;
+}
+
 int CodePage::ConvertPair(unsigned char first, unsigned char second, std::span<wchar_t, 2> characters) const {
   if (m_Kinds[first] != ByteKind::Lead) {
     characters[0] = m_Characters[first];
     characters[1] = m_Characters[second];
     return 2;
   }
-  const std::array<unsigned char, 2> bytes = {first, second};
-  const std::int32_t code = m_pConverter->Convert(bytes).value_or(-1);
+  const std::int32_t code = PairsOf(first)[second];
   if (code < 0) return 0;
   characters[0] = static_cast<wchar_t>(code);
   return 1;

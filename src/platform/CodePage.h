@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -14,7 +15,7 @@ class CodePageConverter;
 ///
 /// Page 42 maps the bytes from 0x20 on onto U+F020 to U+F0FF. The double-byte Macintosh pages are the nearest Windows
 /// pages. A page is made at its first use and kept for the process: one table of 256 characters and, for a double-byte
-/// page, an open conversion.
+/// page, an open conversion and one table more for each lead byte that was met.
 class CodePage {
  public:
   /// @param number 0 for the system's default page; a page that the system does not know is 1252
@@ -38,11 +39,16 @@ class CodePage {
  private:
   enum class ByteKind : unsigned char { Character, Lead, Gap };
 
+  /// The code points of all pairs with one lead byte, -1 for pairs that the page does not have.
+  using PairTable = std::array<std::int32_t, 256>;
+
   explicit CodePage(std::unique_ptr<CodePageConverter> converter);
+  const PairTable& PairsOf(unsigned char lead) const;
 
   std::unique_ptr<CodePageConverter> m_pConverter;
   std::array<wchar_t, 256> m_Characters;
   std::array<ByteKind, 256> m_Kinds;
+  mutable std::array<std::unique_ptr<const PairTable>, 256> m_Pairs;  // null until the lead byte is met
 };
 
 }  // namespace zeb

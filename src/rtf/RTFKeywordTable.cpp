@@ -201,6 +201,13 @@ constexpr std::array<CRTFParser::KeywordRow, kRTFKeywordCount> kRows = {{
 constexpr std::size_t kSlots = 1024;
 constexpr std::int16_t kFree = -1;
 
+// The keywords with their lengths, which the rows do not tell.
+constexpr std::array<std::string_view, kRTFKeywordCount> kKeywords = [] {
+  std::array<std::string_view, kRTFKeywordCount> keywords;
+  for (std::size_t row = 0; row < kRows.size(); ++row) keywords[row] = kRows[row].Keyword;
+  return keywords;
+}();
+
 constexpr std::size_t SlotOf(std::string_view keyword) {
   std::uint32_t hash = 2166136261U;
   for (const char letter : keyword) hash = (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
@@ -211,7 +218,7 @@ using Index = std::array<std::int16_t, kSlots>;
 
 constexpr std::size_t FindSlot(const Index& index, std::string_view keyword) {
   std::size_t slot = SlotOf(keyword);
-  while (index[slot] != kFree && keyword != kRows[static_cast<std::size_t>(index[slot])].Keyword) {
+  while (index[slot] != kFree && keyword != kKeywords[static_cast<std::size_t>(index[slot])]) {
     slot = (slot + 1) % kSlots;
   }
   return slot;
@@ -221,7 +228,7 @@ constexpr Index MakeIndex() {
   Index index{};
   index.fill(kFree);
   for (std::size_t row = 0; row < kRows.size(); ++row) {
-    std::int16_t& entry = index[FindSlot(index, kRows[row].Keyword)];
+    std::int16_t& entry = index[FindSlot(index, kKeywords[row])];
     if (entry == kFree) entry = static_cast<std::int16_t>(row);
   }
   return index;

@@ -83,6 +83,7 @@ CRTFParser::CRTFParser(unsigned char* data, int length, CContextChangedHandler* 
   std::copy(zeb::kRTFKeywordTable.begin(), zeb::kRTFKeywordTable.end(), m_pKeywordTable);
 }
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the compiler's own name, for the array among the members
 CRTFParser::CRTFParser(const CRTFParser& other) = default;
 CRTFParser& CRTFParser::operator=(const CRTFParser& other) = default;
 
@@ -100,8 +101,6 @@ CRTFParser::~CRTFParser() {
 }
 
 std::wstring CRTFParser::GetTextContent() const { return m_TextBuffer; }
-
-unsigned char CRTFParser::GetChar() { return m_pCur < m_pEnd ? *m_pCur++ : '\0'; }
 
 void CRTFParser::UnGetChar() {
   // Fixed behaviour: goes back behind the data's end as well, where GetChar did not move.
@@ -198,6 +197,7 @@ void CRTFParser::ParsePlainBytes(unsigned char ch) {
 void CRTFParser::AppendPlainText(unsigned char ch) {
   // All bytes up to the next brace, backslash or line end go one way: through the code page into the text.
   const wchar_t* characters = PlainByteCharacters();
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): read only as far as it was filled
   std::array<wchar_t, 512> text;
   std::size_t count = 0;
   text[count++] = characters[ch];

@@ -264,7 +264,7 @@ class ZEB_EXPORT CRTFParser {
 
  protected:
   /// The next byte. 0 at the end of the data, which a zero byte in the data means as well.
-  unsigned char GetChar();
+  unsigned char GetChar() { return m_pCur < m_pEnd ? *m_pCur++ : static_cast<unsigned char>(0); }
   /// Goes back by one byte, but never in front of the data.
   void UnGetChar();
   /// Takes a character of the keyword table, a raw byte or the line feed of a paragraph in a table.
