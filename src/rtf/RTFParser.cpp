@@ -83,8 +83,8 @@ CRTFParser::CRTFParser(unsigned char* data, int length, CContextChangedHandler* 
   std::copy(zeb::kRTFKeywordTable.begin(), zeb::kRTFKeywordTable.end(), m_pKeywordTable);
 }
 
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the compiler's own name, for the array among the members
 CRTFParser::CRTFParser(const CRTFParser& other) = default;
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the compiler's own name, for the array among the members
 CRTFParser& CRTFParser::operator=(const CRTFParser& other) = default;
 
 CRTFParser::~CRTFParser() {

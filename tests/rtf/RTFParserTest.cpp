@@ -181,6 +181,30 @@ TEST(RTFParser, LongTextComesWhole) {
   EXPECT_EQ(reading.Text(), expected);
 }
 
+TEST(RTFParser, LongTextIsDecodedAsByteByByte) {
+  for (const int charSet : {0, 1, 2, 77, 128, 134, 136, 204, 255}) {
+    std::string bytes;
+    for (int byte = 1; byte < 256; ++byte) {
+      const char ch = static_cast<char>(byte);
+      if (ch != '\n' && ch != '\r' && ch != '\\' && ch != '{' && ch != '}') bytes += ch;
+    }
+    const std::string head = "{\\fonttbl{\\f3\\fcharset" + std::to_string(charSet) + " Font;}}\\f3\n";
+    ParserProbe single(head);
+    EXPECT_EQ(single.RtfParse(), Parser::rtfOK);
+    for (const char ch : bytes) single.ParseMultiByteCharacter(static_cast<unsigned char>(ch));
+    ParserProbe whole(head + bytes);
+    EXPECT_EQ(whole.RtfParse(), Parser::rtfOK);
+    EXPECT_EQ(whole.m_TextBuffer, single.m_TextBuffer) << charSet;
+    EXPECT_EQ(whole.m_TextBuffer.size(), bytes.size()) << charSet;
+  }
+}
+
+TEST(RTFParser, SkippedBytesOfLongTextAreCounted) {
+  EXPECT_EQ(TextOf("{\\uc3\\u65 abcdef}"), L"Adef");
+  EXPECT_EQ(TextOf("{\\uc5\\u65 ab\r\nc{d\\b e}f}"), L"Af");
+  EXPECT_EQ(TextOf("{\\uc2\\u65 \\'41\\'42\\'43 d}"), L"AC d");
+}
+
 // Hex bytes.
 
 TEST(RTFParser, HexByteLosesItsDigitAtTheEnd) {
