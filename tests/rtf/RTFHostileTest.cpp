@@ -173,7 +173,8 @@ TEST_F(RTFHostileTest, HostileSmallPictures) {
 }
 
 TEST_F(RTFHostileTest, HostilePictureWithoutEnd) {
-  EXPECT_EQ(Read("{\\shppict{\\pict " + std::string(4 * kMillion, 'f')), CRTFParser::rtfUnmatchedBrace);
+  EXPECT_EQ(Read("{\\shppict{\\pict " + std::string(std::size_t{4} * kMillion, 'f')),
+            CRTFParser::rtfUnmatchedBrace);
   EXPECT_EQ(m_Handler.m_Pictures, 1U);
 }
 
@@ -188,9 +189,9 @@ TEST_F(RTFHostileTest, HostileHexByteInPicture) {
 }
 
 TEST_F(RTFHostileTest, HostileBookmarkNames) {
-  EXPECT_EQ(
-      Read("{{\\bkmkstart " + std::string(2 * kMillion, 'n') + "}" + Repeated("{\\bkmkend x}", 50000) + "}"),
-      CRTFParser::rtfOK);
+  EXPECT_EQ(Read("{{\\bkmkstart " + std::string(std::size_t{2} * kMillion, 'n') + "}" +
+                 Repeated("{\\bkmkend x}", 50000) + "}"),
+            CRTFParser::rtfOK);
   EXPECT_EQ(m_Handler.m_Bookmarks, 50001U);
 }
 

@@ -263,6 +263,22 @@ TEST_F(RTFTableTest, CellWithoutATableEndsAParagraph) {
   EXPECT_EQ(Doc(reading, 1).RowIndex, -1);
 }
 
+TEST_F(RTFTableTest, FixedRowBehindAGroupOfCellsGoesOnWithTheirFirstCell) {
+  // The end of a group brings back the cell that was being filled, and a new row does not put it away.
+  const Look look(R"({\trowd\cellx1\cellx2\intbl{a\cell b\cell}{\row}\trowd\cellx5\cellx6\intbl c\cell})");
+  ASSERT_EQ(look.Seen().m_Texts, (std::vector<std::wstring>{L"a", L"b", L"c"}));
+  EXPECT_EQ(look.Seen().m_Counts[2], (Counts{2, 1}));
+  EXPECT_EQ(look.Cell(2, 0).RightEdge, 5);
+  EXPECT_EQ(look.Cell(2, 2).RightEdge, 6);
+}
+
+TEST_F(RTFTableTest, FixedCellsThatAreGroupsHaveTheSameIndex) {
+  const RTFReading reading(R"({\trowd\cellx1\cellx2\intbl{a\cell}{b\cell}\row})");
+  ASSERT_EQ(reading.Outline(), L"[a]P[b]P");
+  EXPECT_EQ(Doc(reading, 0).CellIndex, 0);
+  EXPECT_EQ(Doc(reading, 1).CellIndex, 0);
+}
+
 TEST_F(RTFTableTest, LeftEdgeAndHeaderOfRowsAreKept) {
   const RTFReading reading(R"({\trowd\trleft-108\trhdr\cellx1\intbl a\cell})");
   EXPECT_EQ(Doc(reading, 0).RowLeft, 108);  // the sign of a number has no effect

@@ -17,7 +17,7 @@ constexpr float kTwipsPerPoint = 20.0F;
 constexpr int kLongestTwips = 31680;
 
 bool IsControl(wchar_t character) {
-  const auto code = static_cast<std::uint32_t>(character);
+  const std::uint32_t code = std::char_traits<wchar_t>::to_int_type(character);
   return (code < 0x20 && character != L'\t' && character != L'\n') || (code >= 0x7F && code < 0xA0) ||
          code == 0xFFFE || code == 0xFFFF;
 }
@@ -37,9 +37,9 @@ std::wstring Base64(std::span<const unsigned char> bytes) {
 
 /// A format that pictures may have. What is stored in a document does not always say it.
 struct PictureFormat {
-  const wchar_t* name;
-  const wchar_t* mime;  ///< null if browsers do not show it
-  std::size_t offset;   ///< where the mark stands
+  const wchar_t* name = nullptr;
+  const wchar_t* mime = nullptr;  ///< null if browsers do not show it
+  std::size_t offset = 0;         ///< where the mark stands
   std::initializer_list<unsigned char> mark;
 };
 

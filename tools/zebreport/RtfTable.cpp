@@ -63,21 +63,25 @@ bool TableWalk::RowGoesOn(const CDocumentProperties& props) const {
 
 void TableWalk::FindPlace(const CDocumentProperties& props, TableStep& step) const {
   TablePlace place = PlaceAt(props, props.CellIndex);
+  step.startsTable = !m_inTable;
+  step.startsRow = m_inTable && (!m_last.has_value() || StartsRow(place));
   step.startsCell = true;
-  if (!m_last.has_value()) {
-    step.startsTable = !m_inTable;
-    step.startsRow = m_inTable;
-  } else if (place.row != m_last->row || (place.column >= 0 && place.column < m_counted)) {
-    step.startsRow = true;
-  } else if (place.column == m_counted && !m_cellEnded) {
-    step.startsCell = false;
-    place = *m_last;
-  } else if (place.column == m_counted && IsRowFull(*m_last)) {
-    step.startsRow = true;
-  } else if (place.column == m_counted || place.column < 0) {
-    place = PlaceAt(props, m_last->column + 1);
+  if (m_last.has_value() && !step.startsRow) {
+    const bool sameIndex = place.column == m_counted;
+    if (sameIndex && !m_cellEnded) {
+      step.startsCell = false;
+      place = *m_last;
+    } else if (sameIndex || place.column < 0) {
+      place = PlaceAt(props, m_last->column + 1);
+    }
   }
   step.place = place;
+}
+
+bool TableWalk::StartsRow(const TablePlace& place) const {
+  if (place.row != m_last->row) return true;
+  if (place.column >= 0 && place.column < m_counted) return true;
+  return place.column == m_counted && m_cellEnded && IsRowFull(*m_last);
 }
 
 std::wstring ListMark(const CRTFContext& context) {

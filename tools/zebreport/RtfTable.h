@@ -41,6 +41,8 @@ class TableWalk {
   /// Whether a run that is in no table stands in a row for all that.
   bool RowGoesOn(const CDocumentProperties& props) const;
   void FindPlace(const CDocumentProperties& props, TableStep& step) const;
+  /// Whether a place is in another row than the last one.
+  bool StartsRow(const TablePlace& place) const;
 
   bool m_inTable = false;
   std::optional<TablePlace> m_last;  // of the last run in the table
