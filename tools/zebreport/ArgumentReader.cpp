@@ -51,6 +51,13 @@ std::wstring ArgumentReader::TakeFirst() {
   return first == L"--help" || first == L"-h" ? L"help" : first;
 }
 
+std::wstring ArgumentReader::TakeNext(const std::wstring& what) {
+  if (m_arguments.empty()) throw UsageFailure(L"the " + what + L" is missing; see zebreport help.");
+  std::wstring next = m_arguments.front();
+  m_arguments.erase(m_arguments.begin());
+  return next;
+}
+
 std::vector<std::wstring> ArgumentReader::TakeRest(const std::vector<std::wstring>& names) {
   std::vector<std::wstring> rest = TakeRestAndMore(names);
   if (rest.size() > names.size()) {

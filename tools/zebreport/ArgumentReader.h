@@ -23,6 +23,11 @@ class ArgumentReader {
   /// Takes the first argument, the command; "help" if there is none.
   std::wstring TakeFirst();
 
+  /// Takes the first argument that is left.
+  /// @param what what it is, for the user
+  /// @throws UsageFailure if there is none
+  std::wstring TakeNext(const std::wstring& what);
+
   /// Takes all that is left.
   /// @param names what each argument is; all of them are needed
   /// @throws UsageFailure if there are more or fewer arguments, or an option that nobody has taken

@@ -27,6 +27,8 @@ constexpr Command kCommands[] = {
     {L"rtf", L"dump FILE", L"prints what the reader says of a rich text file, one line per event", RunRtf},
     {L"rtf", L"text FILE", L"prints the text of a rich text file", RunRtf},
     {L"rtf", L"html FILE [-o OUT]", L"makes an HTML page that looks like a rich text file", RunRtf},
+    {L"font", L"subset FILE|NAME --text TEXT -o OUT",
+     L"makes the TrueType font that a PDF file holds when only the characters of TEXT are used", RunFont},
     {L"help", L"", L"prints this text", RunHelp},
 };
 

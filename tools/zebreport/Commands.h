@@ -27,6 +27,7 @@ int RunCheck(ArgumentReader& arguments, std::wstring& output);
 int RunCopy(ArgumentReader& arguments, std::wstring& output);
 int RunDescriptions(ArgumentReader& arguments, std::wstring& output);
 int RunEval(ArgumentReader& arguments, std::wstring& output);
+int RunFont(ArgumentReader& arguments, std::wstring& output);
 int RunHelp(ArgumentReader& arguments, std::wstring& output);
 int RunKeys(ArgumentReader& arguments, std::wstring& output);
 int RunOrder(ArgumentReader& arguments, std::wstring& output);

@@ -3,6 +3,8 @@
 #include "Utf8.h"
 #include "ZEBReportDocument.h"
 
+#include <cstdio>
+
 namespace zebreport {
 
 namespace {
@@ -41,6 +43,10 @@ std::wstring OneLine(std::wstring text) {
 Failure::Failure(const std::wstring& sentence) : std::runtime_error(ToUtf8(sentence)) {}
 
 UsageFailure::UsageFailure(const std::wstring& sentence) : std::runtime_error(ToUtf8(sentence)) {}
+
+void Warn(const std::wstring& sentence) {
+  std::fprintf(stderr, "zebreport: warning: %s\n", ToUtf8(sentence).c_str());
+}
 
 Failure LibraryFailure(const std::wstring& file, const CKXException& exception) {
   const std::wstring message = OneLine(exception.GetErrorMessage());

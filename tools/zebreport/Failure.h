@@ -19,6 +19,9 @@ class UsageFailure : public std::runtime_error {
   explicit UsageFailure(const std::wstring& sentence);
 };
 
+/// Tells the user, in one sentence on standard error, of something that may not be as wanted. The command goes on.
+void Warn(const std::wstring& sentence);
+
 /// The sentence for a failure of the library: its own message, the file that it happened to, and what to do.
 Failure LibraryFailure(const std::wstring& file, const CKXException& exception);
 

@@ -4,7 +4,7 @@ namespace zebreport {
 
 int RunHelp(ArgumentReader& arguments, std::wstring& output) {
   arguments.TakeRest({});
-  output += L"zebreport looks into report and layout files, their formulas and rich texts.\n\n";
+  output += L"zebreport looks into report and layout files, their formulas, rich texts and fonts.\n\n";
   for (const Command& command : AllCommands()) {
     output += std::wstring(L"  zebreport ") + command.name;
     if (*command.usage != L'\0') output += std::wstring(L" ") + command.usage;
@@ -15,6 +15,7 @@ int RunHelp(ArgumentReader& arguments, std::wstring& output) {
       L"Without --layout, show and order take the layout file that the report names, from the report's "
       L"folder.\n"
       L"Formulas are those of reports: names as in [x y], texts as in strcmp(Name; \"text\").\n"
+      L"Fonts are TrueType files, or installed fonts by name; that is how those in collections are reached.\n"
       L"--catalogue FOLDER names the folder of the error catalogue, KXErrorMessages.xml.\n"
       L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, or check "
       L"found something, 2 wrong usage.\n";

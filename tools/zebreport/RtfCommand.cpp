@@ -12,7 +12,7 @@ namespace {
 
 void WriteFile(const std::wstring& path, const std::wstring& text) {
   const std::string bytes = ToUtf8(text);
-  std::ofstream file(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
+  std::ofstream file(ToPath(path), std::ios::binary | std::ios::trunc);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) throw Failure(path + L": the page cannot be written; check the folder.");

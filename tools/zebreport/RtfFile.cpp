@@ -1,6 +1,7 @@
 #include "RtfFile.h"
 
 #include "Failure.h"
+#include "Utf8.h"
 
 #include <filesystem>
 #include <fstream>
@@ -14,7 +15,7 @@ namespace zebreport {
 namespace {
 
 std::vector<unsigned char> ReadBytes(const std::wstring& path) {
-  const std::filesystem::path name(path);
+  const std::filesystem::path name = ToPath(path);
   std::error_code error;
   if (std::filesystem::is_directory(name, error)) throw Failure(path + L": this is a folder; name a file.");
   std::ifstream file(name, std::ios::binary);
