@@ -9,11 +9,12 @@ namespace zebreport {
 
 namespace {
 
+using Traits = std::char_traits<wchar_t>;
+
 /// `\u` and four hexadecimal digits.
-std::wstring Escaped(wchar_t control) {
+std::wstring Escaped(std::uint32_t control) {
   constexpr std::wstring_view kDigits = L"0123456789abcdef";
-  const auto code = static_cast<std::size_t>(control);
-  return {L'\\', L'u', L'0', L'0', kDigits[code / 16 % 16], kDigits[code % 16]};
+  return {L'\\', L'u', L'0', L'0', kDigits[control / 16], kDigits[control % 16]};
 }
 
 void AppendQuoted(std::wstring& text, std::wstring_view content) {
@@ -28,8 +29,8 @@ void AppendQuoted(std::wstring& text, std::wstring_view content) {
       text += L"\\r";
     } else if (character == L'\t') {
       text += L"\\t";
-    } else if (static_cast<std::uint32_t>(character) < U' ') {
-      text += Escaped(character);
+    } else if (const std::uint32_t code = Traits::to_int_type(character); code < U' ') {
+      text += Escaped(code);
     } else {
       text += character;
     }

@@ -36,7 +36,7 @@ class JsonWriter {
   void NewLine();
 
   struct Level {
-    wchar_t close;
+    wchar_t close = L'}';
     bool isEmpty = true;
   };
 
