@@ -118,6 +118,25 @@ TEST_F(ReportDescriptionsFile, FixedGeneration1IsSavedUnderItsOldNumberWithNewNa
   EXPECT_EQ(again.GetReportDescriptionsCount(), 0);  // ProductFamily stands at the cursor and ends the walk
 }
 
+// Under the number of the new generation the saved sample says all that the old one said.
+TEST_F(ReportDescriptionsFile, OfTheOldSampleIsSavedWholeInNewNames) {
+  CReportDescriptions older;
+  older.LoadReportDescriptions(Sample("descriptions_v1.xml").c_str());
+  std::string saved = Saved(older);
+  const std::string number = "<VersionNr>1</VersionNr>";
+  ASSERT_NE(saved.find(number), std::string::npos);
+  saved.replace(saved.find(number), number.size(), "<VersionNr>2</VersionNr>");
+  zebtest::WriteFile(m_dir.File("newer.xml"), saved);
+  CReportDescriptions newer;
+  newer.LoadReportDescriptions(m_dir.WideFile("newer.xml").c_str());
+  EXPECT_EQ(Saved(newer), saved);
+  EXPECT_STREQ(newer.GetProductFamily(), L"Handel & Bank");
+  ASSERT_EQ(newer.GetReportDescriptionsCount(), 3);
+  EXPECT_STREQ(newer.GetReportDescriptionAt(2)->GetReportType(), L"Lieferschein");
+  EXPECT_STREQ(newer.GetReportDescriptionAt(2)->GetFileName(), L"report.xml");
+  EXPECT_EQ(newer.GetDynamicVHItemCount(), 1);
+}
+
 TEST_F(ReportDescriptionsFile, EntryOfTheOldGenerationHasNoFileNameInTheNewOne) {
   zebtest::WriteFile(m_dir.File("entry.xml"),
                      "<E><ReportType>T</ReportType><ReportName>N</ReportName><FileName>f</FileName></E>");

@@ -135,6 +135,25 @@ TEST_F(ReportTypeFile, FixedOfGeneration1IsSavedUnderItsOldNumberWithNewNames) {
   EXPECT_STREQ(again.GetReportTypeZoneAt(0)->GetInternalName(), L"");
 }
 
+// Under the number of the new generation the saved sample says all that the old one said.
+TEST_F(ReportTypeFile, OfTheOldSampleIsSavedWholeInNewNames) {
+  CReportType older;
+  older.LoadReportType(Sample("reporttype_v1.xml").c_str());
+  std::string saved = Saved(older);
+  const std::string number = "<VersionNr>1</VersionNr>";
+  ASSERT_NE(saved.find(number), std::string::npos);
+  saved.replace(saved.find(number), number.size(), "<VersionNr>2</VersionNr>");
+  zebtest::WriteFile(m_dir.File("newer.xml"), saved);
+  CReportType newer;
+  newer.LoadReportType(m_dir.WideFile("newer.xml").c_str());
+  EXPECT_EQ(Saved(newer), saved);
+  ASSERT_EQ(newer.GetReportTypeZonesCount(), 6);
+  EXPECT_STREQ(newer.GetReportTypeZoneAt(2)->GetInternalName(), L"Position");
+  ASSERT_EQ(newer.GetReportTypeZoneAt(2)->GetAvailableValueHolderCount(), 9);
+  EXPECT_STREQ(newer.GetReportTypeZoneAt(2)->GetAvailableValueHolderAt(8)->GetInternalName(),
+               L"PL.StueckJePalette");
+}
+
 TEST_F(ReportTypeFile, WithoutVersionCountsAsGeneration2) {
   CReportType type;
   type.LoadReportType(

@@ -113,6 +113,28 @@ TEST_F(ReportValueHolders, StartsWithoutAReport) {
   static_assert(std::has_virtual_destructor_v<CReportValueHolders>);
 }
 
+// Which questions are const is part of the interface.
+TEST_F(ReportValueHolders, AskUnderTheirSignatures) {
+  using Facade = CReportValueHolders;
+  static_assert(std::is_same_v<decltype(&Facade::GetRootElement), CReportRootElement* (Facade::*)() const>);
+  static_assert(
+      std::is_same_v<decltype(&Facade::GetReportZoneFormulaValueHolderKeyCount), int (Facade::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneFormulaValueHolderKeyAt),
+                               const wchar_t* (Facade::*)(int, int)>);
+  static_assert(
+      std::is_same_v<decltype(&Facade::GetReportZoneOrderedElementCount), int (Facade::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneOrderedElementAt),
+                               const CReportOrderedElement& (Facade::*)(int, int)>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderFormulaOptionsAt),
+                               int (Facade::*)(int, int) const>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderNumberToText),
+                               bool (Facade::*)(int, int) const>);
+  static_assert(std::is_same_v<decltype(&Facade::GetGraphicValueHolderDimensions),
+                               bool (Facade::*)(int, const wchar_t*, float&, float&)>);
+  static_assert(std::is_same_v<decltype(&Facade::LoadReport),
+                               void (Facade::*)(const wchar_t*, const wchar_t*, const wchar_t*)>);
+}
+
 TEST_F(ReportValueHolders, LoadsTheReportWithoutItsLayout) {
   LoadSample("invoice");
   EXPECT_STREQ(m_facade.GetRootElement()->GetReportType(), L"Rechnung");
