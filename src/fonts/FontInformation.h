@@ -83,6 +83,10 @@ class ZEB_EXPORT CFontInformation {
   CPostscriptFontMetrics& PostscriptMetrics();
   /// The TrueType metrics, made if there are none, which become current; PostScript metrics are freed.
   CTrueTypeFontMetrics& UseTrueTypeMetrics();
+  /// Calls ReadTT for the font that the current metrics tell of.
+  void ReadAgain(const wchar_t* faceName, bool reuseData);
+  /// Gets the program of a TrueType font from the operating system and hands it to the pool.
+  void LoadFromSystem();
 
   CFontMetrics* m_pMetrics;                      // observer; one of the next two
   CPostscriptFontMetrics* m_pPostscriptMetrics;  // owned, shared by copies

@@ -1,13 +1,22 @@
-#include "fonts/FontCharMetricsInfo.h"
 #include "fonts/FontInformation.h"
+
+#include "fonts/FontCharMetricsInfo.h"
+#include "fonts/FontData.h"
+#include "fonts/FontErrors.h"
+#include "fonts/FontPool.h"
+#include "fonts/TrueTypeFontMetrics.h"
+#include "foundation/ErrorKeys.h"
+#include "foundation/KXException.h"
 #include "foundation/RecordReader.h"
 #include "foundation/RecordWriter.h"
 #include "foundation/ValueConversion.h"
 #include "foundation/XMLNode.h"
 
 #include <memory>
+#include <string>
 #include <tuple>
 #include <type_traits>
+#include <vector>
 
 // The record of a font in the files of reports and layouts.
 
@@ -22,6 +31,8 @@ constexpr ElementName kFontType = L"FontType";
 constexpr ElementName kCharMetricsInfo = L"CharMetricsInfo";
 constexpr ElementName kLigatures = L"Ligatures";
 constexpr ElementName kWidths = L"Widths";
+constexpr ElementName kFontDataLength = L"FontDataLength";
+constexpr ElementName kFontData = L"FontData";
 
 /// Codes whose widths a record is written with, and the entries of the table that is read into.
 constexpr int kWrittenWidths = 256;
@@ -88,6 +99,8 @@ constexpr auto kBold = Field{L"Bold", &CFontMetrics::GetBold, &CFontMetrics::Set
 constexpr auto kItalic = Field{L"Italic", &CFontMetrics::GetItalic, &CFontMetrics::SetItalic};
 constexpr auto kFontFamilyName =
     Field{L"FontFamilyName", &CFontMetrics::GetFontFamilyName, &CFontMetrics::SetFontFamilyName};
+
+constexpr auto kStyle = std::tuple{kUnicodeFont, kBold, kItalic, kFontFamilyName};
 
 template <class Object, class Value>
 void Read(RecordReader& record, const Field<Object, Value>& field, Object& object) {
@@ -174,20 +187,94 @@ void WriteWidths(RecordWriter& record, const CFontMetrics& metrics) {
     record.Write(kWidths, static_cast<int>(metrics.GetWidthAt(code)));
 }
 
+/// Whether the record is that of a TrueType font: only the fourth child is looked at.
+bool IsTrueType(zebxmln::CXMLNode* node) {
+  RecordReader record(node);
+  for (int i = 0; i < 3; ++i) record.Next();
+  int type = CFontMetrics::FontTypeType1;
+  return record.Read(kFontType, type) && type == CFontMetrics::FontTypeTrueType;
+}
+
+/// Reads the program that old files hold. FontDataLength has no use but to empty what there was.
+/// @return whether the record has one
+bool ReadProgram(RecordReader& record, CFontMetrics& metrics) {
+  if (record.Take(kFontDataLength) != nullptr) metrics.SetFontData(new CFontData(false), true);
+  zebxmln::CXMLNode* const element = record.Take(kFontData);
+  if (element == nullptr) return false;
+  if (auto* const content = dynamic_cast<zebxmln::CXMLBinNode*>(element->GetFirstChildNode())) {
+    void* bytes = nullptr;
+    int length = 0;
+    content->GetBinaryData(&bytes, &length);
+    if (CFontData* const data = metrics.GetFontData()) data->AddFontMemData(bytes, length);
+  }
+  // Fixed behaviour: the element alone counts, whatever it holds.
+  return true;
+}
+
+std::vector<CFontCharMetricsInfo*> CharactersOf(const CFontMetrics& metrics) {
+  std::vector<CFontCharMetricsInfo*> characters;
+  for (int i = 0; i < metrics.GetFontCharMetricsCount(); ++i)
+    characters.push_back(metrics.GetFontCharMetricsAt(i));
+  return characters;
+}
+
+/// Puts the pool's program of the font in the place of its own.
+/// @return whether the pool has one
+bool TakeFromPool(CFontMetrics& metrics) {
+  CFontData* const data = CFontPool::GetInstance().GetFontData(metrics.GetBaseFont());
+  if (data != nullptr) metrics.SetFontData(data, false);
+  return data != nullptr;
+}
+
+void GiveToPool(const CFontMetrics& metrics) {
+  const CFontData* const data = metrics.GetFontData();
+  CFontPool::GetInstance().SetFontData(metrics.GetBaseFont(), metrics.GetFontFamilyName(), metrics.GetBold(),
+                                       metrics.GetItalic(), data == nullptr ? nullptr : data->GetData(),
+                                       data == nullptr ? 0 : data->GetLength(), metrics.GetLocalizedNames());
+}
+
 }  // namespace
 
 bool CFontInformation::Load(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
+  if (m_pTrueTypeMetrics == nullptr && IsTrueType(node)) UseTrueTypeMetrics();
   RecordReader record(node);
   CFontMetrics& metrics = *m_pMetrics;
   ReadAll(record, kScalars, metrics);
   ReadCharacters(record, metrics);
   ReadAll(record, kCodeRange, metrics);
   ReadWidths(record, metrics);
-  Read(record, kUnicodeFont, metrics);
-  Read(record, kBold, metrics);
-  Read(record, kItalic, metrics);
-  Read(record, kFontFamilyName, metrics);
+  const bool hasProgram = ReadProgram(record, metrics);
+  ReadAll(record, kStyle, metrics);
+  if (!hasProgram && !TakeFromPool(metrics) && metrics.GetFontType() == CFontMetrics::FontTypeTrueType) {
+    LoadFromSystem();
+  }
+  if (m_pMetrics->GetFontType() == CFontMetrics::FontTypeTrueType) ReadAgain(nullptr, true);
   return true;
+}
+
+void CFontInformation::ReadAgain(const wchar_t* faceName, bool reuseData) {
+  const bool unicode = m_pMetrics->GetUnicodeFont();
+  const int bold = m_pMetrics->GetBold();
+  const bool italic = m_pMetrics->GetItalic();
+  // A record whose type stands out of its place was read into PostScript metrics, which end here. Its characters
+  // move on, since nobody could free them any more.
+  const std::vector<CFontCharMetricsInfo*> characters =
+      m_pMetrics == m_pTrueTypeMetrics ? std::vector<CFontCharMetricsInfo*>() : CharactersOf(*m_pMetrics);
+  CTrueTypeFontMetrics& metrics = UseTrueTypeMetrics();
+  for (CFontCharMetricsInfo* info : characters) metrics.AddFontCharMetricsInfo(info);
+  ReadTT(faceName, nullptr, nullptr, unicode, reuseData, bold, italic);
+}
+
+void CFontInformation::LoadFromSystem() {
+  // The metrics that hold the name may be replaced while it is in use.
+  const std::wstring name = m_pMetrics->GetBaseFont();
+  try {
+    ReadAgain(name.c_str(), false);
+    GiveToPool(*m_pMetrics);
+    TakeFromPool(*m_pMetrics);
+  } catch (const CKXException&) {
+    zeb::ThrowFontError(zeb::ErrorKeys::FontPoolIncomplete, name.c_str());
+  }
 }
 
 bool CFontInformation::Save(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
@@ -202,5 +289,7 @@ bool CFontInformation::Save(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
   record.WriteUnless(kBold.Name, metrics.GetBold(), 0);
   record.WriteUnless(kItalic.Name, metrics.GetItalic(), false);
   Write(record, kFontFamilyName, metrics);
+  // Fixed behaviour: of a font that is used with glyph codes and has a subset, the pool gets the subset.
+  GiveToPool(metrics);
   return true;
 }

@@ -2,6 +2,9 @@
 
 #include "fonts/EncodingInformation.h"
 #include "fonts/Encodings.h"
+#include "fonts/FontCharMetricsInfo.h"
+#include "fonts/FontInformation.h"
+#include "fonts/Fonts.h"
 #include "fonts/GlobalFontHandler.h"
 
 #include <memory>
@@ -24,14 +27,39 @@ void ReadEncodings(RecordReader& reader, CEncodings& encodings, CIDManager& ids)
   }
 }
 
+/// A font that is dropped takes the records of its characters along, which nobody else knows.
+struct FontWithCharacters {
+  void operator()(CFontInformation* font) const {
+    const CFontMetrics& metrics = *font->GetFontMetrics();
+    for (int i = 0; i < metrics.GetFontCharMetricsCount(); ++i) delete metrics.GetFontCharMetricsAt(i);
+    delete font;
+  }
+};
+
+void ReadFonts(RecordReader& reader, CFonts& fonts, CIDManager& ids) {
+  int count = 0;
+  while (zebxmln::CXMLNode* record = reader.Take(kFontInformation)) {
+    if (count++ >= kMostFontsOfFile) continue;
+    std::unique_ptr<CFontInformation, FontWithCharacters> font(new CFontInformation(&fonts));
+    font->Load(record, ids);
+    fonts.AddFont(font.get());
+    static_cast<void>(font.release());
+  }
+}
+
 }  // namespace
 
 void ReadFontRecords(RecordReader& reader, CGlobalFontHandler& handler, CIDManager& ids) {
-  while (reader.Is(kFontInformation)) reader.Next();
+  ReadFonts(reader, *handler.GetFonts(), ids);
   ReadEncodings(reader, *handler.GetEncodings(), ids);
 }
 
 void WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDManager& ids) {
+  // A built-in font that nobody has asked for would only be made in order to write nothing.
+  const CFonts& fonts = *handler.GetFonts();
+  for (const CFonts::Entry& entry : fonts.m_Fonts) {
+    if (CFontInformation* font = fonts.MadeFontOf(entry)) font->Save(node, ids);
+  }
   CEncodings& encodings = *handler.GetEncodings();
   for (int i = 0; i < encodings.GetEncodingCount(); ++i) {
     if (CEncodingInformation* encoding = encodings.GetEncodingAt(i)) encoding->Save(node, ids);

@@ -15,11 +15,16 @@ inline constexpr ElementName kFontInformation = L"FontInformation";
 /// beyond is stepped over.
 inline constexpr int kMostEncodingsOfFile = 1000;
 
+/// Fonts that are taken from one file: each takes some 200 KiB, however short its record is. What lies beyond is stepped
+/// over.
+inline constexpr int kMostFontsOfFile = 250;
+
 /// Reads the font records and, behind them, the encoding records that stand at the cursor, into the handler's lists.
-/// Font records are stepped over.
+/// Errors: "FontPoolIncomplete" with the name of a TrueType font whose program is nowhere; those of
+/// CFontInformation::ReadTT.
 void ReadFontRecords(RecordReader& reader, CGlobalFontHandler& handler, CIDManager& ids);
 
-/// Writes the handler's encodings, other than the standard ones, under the node.
+/// Writes the handler's fonts and encodings, other than the built-in ones, under the node.
 void WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDManager& ids);
 
 }  // namespace zeb

@@ -47,7 +47,7 @@ CFonts::CFonts(const CFonts& other) = default;
 
 CFonts::~CFonts() {
   for (const Entry& entry : m_Fonts) {
-    delete (IsBuiltIn(entry) ? m_pBuiltInFonts->MadeAt(entry.m_uBuiltIn) : entry.m_pFont);
+    delete MadeFontOf(entry);
   }
 }
 
@@ -85,9 +85,12 @@ CFontInformation* CFonts::FontOf(const Entry& entry) const {
   return IsBuiltIn(entry) ? m_pBuiltInFonts->At(entry.m_uBuiltIn) : entry.m_pFont;
 }
 
+CFontInformation* CFonts::MadeFontOf(const Entry& entry) const {
+  return IsBuiltIn(entry) ? m_pBuiltInFonts->MadeAt(entry.m_uBuiltIn) : entry.m_pFont;
+}
+
 const CFontMetrics* CFonts::MetricsOf(const Entry& entry) const {
-  const CFontInformation* const font =
-      IsBuiltIn(entry) ? m_pBuiltInFonts->MadeAt(entry.m_uBuiltIn) : entry.m_pFont;
+  const CFontInformation* const font = MadeFontOf(entry);
   return font == nullptr ? nullptr : font->GetFontMetrics();
 }
 

@@ -14,11 +14,17 @@ class CEncodingInformation;
 class CEncodings;
 class CFontInformation;
 class CGlobalFontHandler;
+class CIDManager;
 class CPDFCharCollName;
+
+namespace zebxmln {
+class CXMLNode;
+}
 
 namespace zeb {
 class BuiltInFonts;
-}
+void WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDManager& ids);
+}  // namespace zeb
 
 /// The list of fonts known to one handler: the 14 standard fonts of PDF, then 11 predefined fonts for Chinese,
 /// Japanese and Korean, then the fonts of the report. It owns them.
@@ -67,6 +73,7 @@ class ZEB_EXPORT CFonts {
 
  private:
   friend class CGlobalFontHandler;
+  friend void zeb::WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDManager& ids);
 
   using NameCache = std::map<std::wstring, std::wstring>;
   /// A font that was added, or the number of a built-in one, which is made when it is first asked for.
@@ -78,6 +85,8 @@ class ZEB_EXPORT CFonts {
   void AddBuiltIn(std::size_t first, std::size_t count);
   static bool IsBuiltIn(const Entry& entry);
   CFontInformation* FontOf(const Entry& entry) const;
+  /// Null if the font is a built-in one that was not made yet.
+  CFontInformation* MadeFontOf(const Entry& entry) const;
   /// Null if the font is a built-in one that was not made yet.
   const CFontMetrics* MetricsOf(const Entry& entry) const;
   bool IsNeverEmbedded(const Entry& entry) const;

@@ -1,0 +1,359 @@
+#include "fonts/FontData.h"
+#include "fonts/FontInformation.h"
+#include "fonts/FontPool.h"
+#include "fonts/PostscriptFontMetrics.h"
+#include "fonts/ReadFont.h"
+#include "fonts/TrueTypeFontMetrics.h"
+#include "foundation/XMLManager.h"
+#include "support/Files.h"
+#include "support/RaisedKey.h"
+#include "support/RecordFixture.h"
+#include "support/ScopedFontPool.h"
+#include "support/WidePath.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using zebtest::LoadRecord;
+using zebtest::ReadFont;
+using zebtest::SaveRecord;
+using zebtest::ScopedFontPool;
+
+std::string Element(std::string_view name, std::string_view text) {
+  if (text.empty()) return "<" + std::string(name) + "/>";
+  return "<" + std::string(name) + ">" + std::string(text) + "</" + std::string(name) + ">";
+}
+
+std::string Widths(int value, int count = 256) {
+  std::string widths;
+  for (int i = 0; i < count; ++i) widths += Element("Widths", std::to_string(value));
+  return widths;
+}
+
+/// The children of a record up to `StdHW`, of a PostScript font unless said otherwise.
+std::string Scalars(std::string_view type = "0", std::string_view name = "Sample-Roman") {
+  return Element("BaseFont", name) + "<Encoding>fontspecific</Encoding><Flags>34</Flags>" +
+         Element("FontType", type) +
+         "<TTName>SampleTT</TTName><EncodingScheme>FontSpecific</EncodingScheme><ItalicAngle>-12.5</"
+         "ItalicAngle>"
+         "<IsFixedPitch>1</IsFixedPitch><BBoxLLX>-10.0</BBoxLLX><BBoxLLY>-220.25</BBoxLLY><BBoxURX>1001.0</"
+         "BBoxURX>"
+         "<BBoxURY>931.0</BBoxURY><UnderlinePosition>-101</UnderlinePosition>"
+         "<UnderlineThickness>51</UnderlineThickness><CapHeight>718</CapHeight><XHeight>523</XHeight>"
+         "<Ascender>719</Ascender><Descender>-207</Descender><StdVW>88</StdVW><StdHW>76</StdHW>";
+}
+
+const std::string kCharacters =
+    "<CharMetricsInfo><Code>102</Code><WX>333</WX><WY>-1</WY><Name>f</Name><BBoxLLX>20.0</BBoxLLX>"
+    "<BBoxLLY>0.0</BBoxLLY><BBoxURX>383.5</BBoxURX><BBoxURY>683.0</BBoxURY>"
+    "<Ligatures><Successor>i</Successor><Ligature>fi</Ligature></Ligatures>"
+    "<Ligatures><Successor>l</Successor><Ligature>fl</Ligature></Ligatures></CharMetricsInfo>"
+    "<CharMetricsInfo><Code>-1</Code><WX>0</WX><WY>0</WY><Name/><BBoxLLX>0.0</BBoxLLX>"
+    "<BBoxLLY>0.0</BBoxLLY><BBoxURX>0.0</BBoxURX><BBoxURY>0.0</BBoxURY></CharMetricsInfo>";
+
+const std::string kTail =
+    "<UnicodeFont>0</UnicodeFont><Bold>400</Bold><FontFamilyName>Samples</FontFamilyName>";
+
+std::string Record(std::string_view children) { return Element("FontInformation", children); }
+
+std::string SampleRecord() {
+  return Record(Scalars() + kCharacters + "<FirstChar>32</FirstChar><LastChar>255</LastChar>" + Widths(600) +
+                kTail);
+}
+
+std::string BytesOf(const CFontData* data) {
+  if (data == nullptr) return "none";
+  return {data->GetData(), data->GetData() + data->GetLength()};
+}
+
+void Store(std::string_view name, std::string program) {
+  CFontPool::GetInstance().SetFontData(zebtest::Widen(name).c_str(), L"Family", 400, false,
+                                       reinterpret_cast<unsigned char*>(program.data()),
+                                       static_cast<int>(program.size()), {});
+}
+
+TEST(FontInformationRecord, EveryFieldIsRead) {
+  ReadFont font;
+  LoadRecord(font.Font(), SampleRecord());
+  EXPECT_STREQ(font->GetBaseFont(), L"Sample-Roman");
+  EXPECT_STREQ(font->GetEncoding(), L"fontspecific");
+  EXPECT_EQ(font->GetFlags(), 34);
+  EXPECT_EQ(font->GetFontType(), CFontMetrics::FontTypeType1);
+  EXPECT_STREQ(font->GetTTName(), L"SampleTT");
+  EXPECT_STREQ(font->GetEncodingScheme(), L"FontSpecific");
+  EXPECT_EQ(font->GetItalicAngle(), -12.5F);
+  EXPECT_TRUE(font->GetFixedPitch());
+  EXPECT_EQ(font->GetBBoxLLX(), -10.0F);
+  EXPECT_EQ(font->GetBBoxLLY(), -220.25F);
+  EXPECT_EQ(font->GetBBoxURX(), 1001.0F);
+  EXPECT_EQ(font->GetBBoxURY(), 931.0F);
+  EXPECT_EQ(font->GetUnderlinePosition(), -101);
+  EXPECT_EQ(font->GetUnderlineThickness(), 51);
+  EXPECT_EQ(font->GetCapHeight(), 718);
+  EXPECT_EQ(font->GetXHeight(), 523);
+  EXPECT_EQ(font->GetAscender(), 719);
+  EXPECT_EQ(font->GetDescender(), -207);
+  EXPECT_EQ(font->GetStemVW(), 88);
+  EXPECT_EQ(font->GetStemHW(), 76);
+  EXPECT_EQ(font->GetFirstChar(), 32);
+  EXPECT_EQ(font->GetLastChar(), 255);
+  EXPECT_EQ(font->GetWidthAt(0), 600);
+  EXPECT_EQ(font->GetWidthAt(255), 600);
+  EXPECT_EQ(font->GetWidthAt(256), 0);
+  EXPECT_FALSE(font->GetUnicodeFont());
+  EXPECT_EQ(font->GetBold(), 400);
+  EXPECT_FALSE(font->GetItalic());
+  EXPECT_STREQ(font->GetFontFamilyName(), L"Samples");
+}
+
+TEST(FontInformationRecord, CharactersAreRead) {
+  ReadFont font;
+  LoadRecord(font.Font(), SampleRecord());
+  ASSERT_EQ(font->GetFontCharMetricsCount(), 2);
+  EXPECT_EQ(font.Record(0).GetCode(), 102);
+  EXPECT_EQ(font.Record(0).GetWX(), 333);
+  EXPECT_EQ(font.Record(0).GetWY(), -1);
+  EXPECT_STREQ(font.Record(0).GetName(), L"f");
+  EXPECT_EQ(font.Record(0).GetBBoxLLX(), 20.0F);
+  EXPECT_EQ(font.Record(0).GetBBoxLLY(), 0.0F);
+  EXPECT_EQ(font.Record(0).GetBBoxURX(), 383.5F);
+  EXPECT_EQ(font.Record(0).GetBBoxURY(), 683.0F);
+  ASSERT_EQ(font.Record(0).GetLigatureCount(), 2);
+  EXPECT_STREQ(font.Record(0).GetLigatureAt(1)->GetSuccessor(), L"l");
+  EXPECT_STREQ(font.Record(0).GetLigatureAt(1)->GetLigature(), L"fl");
+  EXPECT_EQ(font.Record(1).GetCode(), -1);
+  EXPECT_EQ(font.Record(1).GetLigatureCount(), 0);
+}
+
+TEST(FontInformationRecord, WhatIsReadIsWritten) {
+  ReadFont font;
+  LoadRecord(font.Font(), SampleRecord());
+  EXPECT_EQ(SaveRecord(font.Font()), SampleRecord());
+}
+
+TEST(FontInformationRecord, TheFieldsOfANewFont) {
+  CFontInformation font(nullptr);
+  EXPECT_EQ(
+      SaveRecord(font),
+      Record("<BaseFont/><Encoding>winansi1252</Encoding><Flags>0</Flags><FontType>2</FontType><TTName/>"
+             "<EncodingScheme/><ItalicAngle>0.0</ItalicAngle><IsFixedPitch>0</IsFixedPitch>"
+             "<BBoxLLX>0.0</BBoxLLX><BBoxLLY>0.0</BBoxLLY><BBoxURX>0.0</BBoxURX><BBoxURY>0.0</BBoxURY>"
+             "<UnderlinePosition>0</UnderlinePosition><UnderlineThickness>0</UnderlineThickness>"
+             "<CapHeight>0</CapHeight><XHeight>0</XHeight><Ascender>0</Ascender><Descender>0</Descender>"
+             "<StdVW>0</StdVW><StdHW>0</StdHW><FirstChar>0</FirstChar><LastChar>256</LastChar>" +
+             Widths(0) + "<UnicodeFont>0</UnicodeFont><Bold>400</Bold><FontFamilyName/>"));
+}
+
+TEST(FontInformationRecord, BoldIsWrittenUnlessZeroAndItalicIfTrue) {
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetUnicodeFont(true);
+  const auto tail = [&] {
+    const std::string record = SaveRecord(font);
+    return record.substr(record.find("<LastChar>"));
+  };
+  const std::string begin = "<LastChar>256</LastChar><UnicodeFont>1</UnicodeFont>";
+  const std::string end = "<FontFamilyName/></FontInformation>";
+  EXPECT_EQ(tail(), begin + "<Bold>400</Bold>" + end);
+  font.GetFontMetrics()->SetBold(0);
+  EXPECT_EQ(tail(), begin + end);
+  font.GetFontMetrics()->SetBold(-1);
+  font.GetFontMetrics()->SetItalic(true);
+  EXPECT_EQ(tail(), begin + "<Bold>-1</Bold><Italic>1</Italic>" + end);
+}
+
+TEST(FontInformationRecord, FixedABoldOfZeroComesBackAsTheDefault) {
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetBold(0);
+  font.GetFontMetrics()->SetFontType(CFontMetrics::FontTypeType1);
+  CFontInformation again(nullptr);
+  LoadRecord(again, SaveRecord(font));
+  EXPECT_EQ(again.GetFontMetrics()->GetBold(), 400);
+}
+
+TEST(FontInformationRecord, BuiltInFontsAreNotWritten) {
+  CFontInformation base14(nullptr);
+  base14.GetFontMetrics()->SetBase14Font(true);
+  EXPECT_EQ(SaveRecord(base14), "");
+  CFontInformation cjk(nullptr);
+  cjk.GetFontMetrics()->SetCJKFont(true);
+  EXPECT_EQ(SaveRecord(cjk), "");
+}
+
+TEST(FontInformationRecord, NullRecordsAndLigaturesAreNotWritten) {
+  ReadFont font;
+  auto* const info = new CFontCharMetricsInfo();
+  info->AddLigature(nullptr);
+  font->AddFontCharMetricsInfo(nullptr);
+  font->AddFontCharMetricsInfo(info);
+  const std::string record = SaveRecord(font.Font());
+  EXPECT_EQ(record.find("<CharMetricsInfo>"), record.rfind("<CharMetricsInfo>"));
+  EXPECT_EQ(record.find("Ligatures"), std::string::npos);
+}
+
+TEST(FontInformationRecord, AnyNumberButZeroIsFixedPitch) {
+  ReadFont font;
+  LoadRecord(font.Font(), Record("<FontType>0</FontType><IsFixedPitch>-7</IsFixedPitch>"));
+  EXPECT_TRUE(font->GetFixedPitch());
+  ReadFont text;
+  LoadRecord(text.Font(), Record("<FontType>0</FontType><IsFixedPitch>true</IsFixedPitch>"));
+  EXPECT_FALSE(text->GetFixedPitch());
+}
+
+TEST(FontInformationRecord, AMissingChildKeepsItsDefault) {
+  ReadFont font;
+  LoadRecord(font.Font(), Record("<FontType>0</FontType><Ascender>5</Ascender><LastChar>9</LastChar>"));
+  EXPECT_STREQ(font->GetBaseFont(), L"");
+  EXPECT_STREQ(font->GetEncoding(), L"winansi1252");
+  EXPECT_EQ(font->GetAscender(), 5);
+  EXPECT_EQ(font->GetLastChar(), 9);
+  EXPECT_EQ(font->GetFirstChar(), 0);
+  EXPECT_EQ(font->GetBold(), 400);
+}
+
+TEST(FontInformationRecord, FixedChildrenOutOfTheirOrderAreLost) {
+  ReadFont font;
+  LoadRecord(font.Font(), Record("<FontType>0</FontType><Descender>-3</Descender><Ascender>5</Ascender>"
+                                 "<FontFamilyName>F</FontFamilyName>"));
+  EXPECT_EQ(font->GetDescender(), -3);
+  EXPECT_EQ(font->GetAscender(), 0);
+  EXPECT_STREQ(font->GetFontFamilyName(), L"");
+}
+
+TEST(FontInformationRecord, EveryWidthIsRead) {
+  ReadFont font;
+  LoadRecord(font.Font(),
+             Record("<FontType>0</FontType>" + Widths(7, 300) + "<Widths>-1</Widths><Bold>5</Bold>"));
+  EXPECT_EQ(font->GetWidthAt(299), 7);
+  EXPECT_EQ(font->GetWidthAt(300), 65535);
+  EXPECT_EQ(font->GetWidthAt(301), 0);
+  EXPECT_EQ(font->GetBold(), 5);
+}
+
+// Attack: more widths than there are codes.
+TEST(FontInformationRecord, WidthsBeyondTheLastCodeAreDropped) {
+  ReadFont font;
+  LoadRecord(font.Font(), Record("<FontType>0</FontType>" + Widths(7, 65540) + "<Bold>5</Bold>"));
+  EXPECT_EQ(font->GetWidthAt(65535), 7);
+  EXPECT_EQ(font->GetBold(), 5);
+}
+
+TEST(FontInformationRecord, FixedASymbolFontWritesTheWidthsOfItsPage) {
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetSymbolFont(true);
+  font.GetFontMetrics()->SetWidthAt(65, 7);
+  font.GetFontMetrics()->SetWidthAt(0xF000, 8);
+  const std::string record = SaveRecord(font);
+  EXPECT_NE(record.find("<LastChar>256</LastChar><Widths>8</Widths><Widths>0</Widths>"), std::string::npos);
+  EXPECT_EQ(record.find("<Widths>7</Widths>"), std::string::npos);
+}
+
+TEST(FontInformationRecord, AProgramInTheRecordIsTaken) {
+  ReadFont font;
+  LoadRecord(font.Font(), Record(Scalars() +
+                                 "<FontDataLength>99</FontDataLength><FontData><BinaryData>YWJj</BinaryData>"
+                                 "</FontData>" +
+                                 kTail));
+  EXPECT_EQ(BytesOf(font->GetFontData()), "abc");
+  EXPECT_STREQ(font->GetFontFamilyName(), L"Samples");
+}
+
+TEST(FontInformationRecord, AProgramWithoutLengthIsAppended) {
+  ReadFont font;
+  std::string before = "12";
+  font->GetFontData()->AddFontMemData(before.data(), 2);
+  LoadRecord(font.Font(), Record(Scalars() + "<FontData><BinaryData>YWJj</BinaryData></FontData>"));
+  EXPECT_EQ(BytesOf(font->GetFontData()), "12abc");
+  LoadRecord(font.Font(), Record(Scalars() + "<FontDataLength>0</FontDataLength>"));
+  EXPECT_EQ(BytesOf(font->GetFontData()), "");
+}
+
+TEST(FontInformationRecord, FixedAnEmptyProgramInTheRecordCountsAsFound) {
+  const ScopedFontPool pool;
+  Store("Sample-Roman", "pool");
+  for (const char* const program :
+       {"<FontData/>", "<FontData>x</FontData>", "<FontData><BinaryData>?</BinaryData></FontData>"}) {
+    ReadFont font;
+    LoadRecord(font.Font(), Record(Scalars() + program));
+    EXPECT_EQ(BytesOf(font->GetFontData()), "") << program;
+  }
+}
+
+TEST(FontInformationRecord, TheProgramComesFromThePool) {
+  const ScopedFontPool pool;
+  Store("Sample-Roman", "pool");
+  {
+    ReadFont font;
+    LoadRecord(font.Font(), SampleRecord());
+    EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"Sample-Roman"));
+  }
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"Sample-Roman")), "pool") << "the pool keeps it";
+}
+
+TEST(FontInformationRecord, APostScriptFontWithoutProgramLoads) {
+  const ScopedFontPool pool;
+  ReadFont font;
+  LoadRecord(font.Font(), SampleRecord());
+  EXPECT_EQ(BytesOf(font->GetFontData()), "");
+}
+
+TEST(FontInformationRecord, SavingGivesTheProgramToThePool) {
+  const ScopedFontPool pool;
+  CFontInformation font(nullptr);
+  std::string program = "program";
+  font.GetFontMetrics()->SetBaseFont(L"Sample");
+  font.GetFontMetrics()->GetFontData()->AddFontMemData(program.data(), 7);
+  font.GetFontMetrics()->AddLocalizedFontName(L"Muster");
+  EXPECT_EQ(SaveRecord(font).find("FontData"), std::string::npos);
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"Sample")), "program");
+  EXPECT_STREQ(pool->FindUniqueName(L"Muster"), L"Sample");
+  EXPECT_TRUE(fs::exists(pool.Folder().File("Sample.fd")));
+}
+
+TEST(FontInformationRecord, ABuiltInFontIsNotGivenToThePool) {
+  const ScopedFontPool pool;
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetBaseFont(L"Sample");
+  font.GetFontMetrics()->SetBase14Font(true);
+  SaveRecord(font);
+  EXPECT_EQ(pool->GetFontData(L"Sample"), nullptr);
+}
+
+TEST(FontInformationRecord, AProgramThatIsNullIsGivenAsEmpty) {
+  const ScopedFontPool pool;
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetBaseFont(L"Sample");
+  font.GetFontMetrics()->SetFontData(nullptr, true);
+  SaveRecord(font);
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"Sample")), "");
+}
+
+TEST(FontInformationRecord, WithoutAPoolSavingWritesTheRecordAlone) {
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetBaseFont(L"Sample");
+  EXPECT_NE(SaveRecord(font), "");
+  EXPECT_EQ(CFontPool::GetInstance().GetFontData(L"Sample"), nullptr);
+}
+
+TEST(FontInformationRecord, AnAFMWithItsProgramComesBackWhole) {
+  const ScopedFontPool pool;
+  ReadFont font;
+  ASSERT_EQ(font.AFMText(
+                "FontName Sample\nStartCharMetrics 2\nC 65 ; WX 7 ; N A ;\nC 66 ; WX 8 ; N B ; L i fi ;\n"),
+            L"");
+  ASSERT_EQ(font.Program(fs::path(ZEB_TEST_DATA) / "fonts" / "dummy-space.pfb"), L"");
+  const std::string record = SaveRecord(font.Font());
+  ReadFont again;
+  LoadRecord(again.Font(), record);
+  EXPECT_EQ(SaveRecord(again.Font()), record);
+  EXPECT_EQ(BytesOf(again->GetFontData()), BytesOf(font->GetFontData()));
+  EXPECT_EQ(again->GetWidthAt('B'), 8);
+}
+
+}  // namespace
