@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -354,6 +355,138 @@ TEST(FontInformationRecord, AnAFMWithItsProgramComesBackWhole) {
   EXPECT_EQ(SaveRecord(again.Font()), record);
   EXPECT_EQ(BytesOf(again->GetFontData()), BytesOf(font->GetFontData()));
   EXPECT_EQ(again->GetWidthAt('B'), 8);
+}
+
+/// The record of a TrueType font with its program, from a real layout file.
+std::string BarCodeRecord() {
+  const std::string layout = zebtest::ReadFile(fs::path(ZEB_EXAMPLES) / "legacy" / "layout.xml");
+  const std::string end = "</FontInformation>";
+  const std::size_t begin = layout.rfind("<FontInformation>");
+  return layout.substr(begin, layout.find(end, begin) + end.size() - begin);
+}
+
+std::string Replaced(std::string text, std::string_view what, std::string_view with) {
+  text.replace(text.find(what), what.size(), with);
+  return text;
+}
+
+/// The same record without the program.
+std::string BarCodeRecordWithoutProgram() {
+  const std::string record = BarCodeRecord();
+  const std::size_t begin = record.find("<FontDataLength>");
+  const std::string end = "</FontData>";
+  return record.substr(0, begin) + record.substr(record.find(end) + end.size());
+}
+
+TEST(FontInformationRecord, ATrueTypeFontWithItsProgramLoads) {
+  ReadFont font;
+  LoadRecord(font.Font(), BarCodeRecord());
+  EXPECT_NE(dynamic_cast<CTrueTypeFontMetrics*>(&font.Metrics()), nullptr);
+  EXPECT_NE(font->GetTTFile(), nullptr);
+  EXPECT_STREQ(font->GetBaseFont(), L"LG Code 39");
+  EXPECT_EQ(font->GetFontData()->GetLength(), 4212);
+  EXPECT_EQ(font->GetFontEmbedding(), CFontMetrics::EmbedSingleByte);
+}
+
+TEST(FontInformationRecord, ATrueTypeFontComesBackFromThePool) {
+  const ScopedFontPool pool;
+  std::string record;
+  {
+    ReadFont font;
+    LoadRecord(font.Font(), BarCodeRecord());
+    record = SaveRecord(font.Font());
+    EXPECT_EQ(BytesOf(pool->GetFontData(L"LG Code 39")), BytesOf(font->GetFontData()));
+  }
+  EXPECT_EQ(record.find("FontData"), std::string::npos);
+  CFontPool::GetInstance().DeleteFontPool();
+  ReadFont again;
+  LoadRecord(again.Font(), record);
+  EXPECT_EQ(again->GetFontData(), pool->GetFontData(L"LG Code 39")) << "read from the file of the pool";
+  EXPECT_NE(again->GetTTFile(), nullptr);
+  EXPECT_EQ(SaveRecord(again.Font()), record);
+}
+
+TEST(FontInformationRecord, ATrueTypeFontWithoutProgramAnywhereIsNamed) {
+  ReadFont font;
+  const zebtest::Raised raised =
+      zebtest::RaisedBy([&] { LoadRecord(font.Font(), BarCodeRecordWithoutProgram()); });
+  EXPECT_EQ(raised.Key, L"FontPoolIncomplete");
+  EXPECT_TRUE(raised.Message.ends_with(L"\nLG Code 39")) << testing::PrintToString(raised.Message);
+}
+
+TEST(FontInformationRecord, FixedARecordWithoutTypeIsThatOfATrueTypeFont) {
+  ReadFont font;
+  const zebtest::Raised raised = zebtest::RaisedBy([&] { LoadRecord(font.Font(), "<FontInformation/>"); });
+  EXPECT_EQ(raised.Key, L"FontPoolIncomplete");
+  EXPECT_TRUE(raised.Message.ends_with(L"\n"));
+}
+
+TEST(FontInformationRecord, AUnicodeFontHasNoWidthsInTheFileAndThoseOfItsProgramWhenLoaded) {
+  const ScopedFontPool pool;
+  ReadFont font;
+  LoadRecord(font.Font(), Replaced(BarCodeRecord(), "<UnicodeFont>0", "<UnicodeFont>1"));
+  EXPECT_TRUE(font->GetUnicodeFont());
+  EXPECT_EQ(font->GetFontEmbedding(), CFontMetrics::EmbedSubset);
+  const std::string record = SaveRecord(font.Font());
+  EXPECT_EQ(record.find("<Widths>"), std::string::npos);
+  ReadFont again;
+  LoadRecord(again.Font(), record);
+  EXPECT_NE(again->GetWidthAt('A'), 0);
+  EXPECT_EQ(again->GetWidthAt('A'), font->GetWidthAt('A'));
+}
+
+TEST(FontInformationRecord, FixedOfASubsetThePoolGetsTheSubset) {
+  const ScopedFontPool pool;
+  ReadFont font;
+  LoadRecord(font.Font(), Replaced(BarCodeRecord(), "<UnicodeFont>0", "<UnicodeFont>1"));
+  font->MapChar('A');
+  font->CreateSubsetFont();
+  ASSERT_LT(font->GetFontData()->GetLength(), 4212);
+  SaveRecord(font.Font());
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"LG Code 39")), BytesOf(font->GetFontData()));
+}
+
+TEST(FontInformationRecord, AProgramThatIsNoTrueTypeFontHasItsOwnFailure) {
+  const std::string record = Record(Scalars("2") + "<FontData><BinaryData>YWJj</BinaryData></FontData>");
+  ReadFont font;
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(font.Font(), record); }), L"IncorrectTrueTypeFile");
+}
+
+// Attack: a type out of its place, so that the record is read into metrics of the other kind.
+TEST(FontInformationRecord, ATypeOutOfItsPlaceKeepsTheCharacters) {
+  ReadFont font;
+  const std::string record = Record("<BaseFont>No such font</BaseFont><FontType>2</FontType>" + kCharacters);
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(font.Font(), record); }), L"FontPoolIncomplete");
+  EXPECT_EQ(font->GetFontCharMetricsCount(), 2);
+  EXPECT_NE(dynamic_cast<CTrueTypeFontMetrics*>(&font.Metrics()), nullptr);
+}
+
+/// The record of the Unicode font DejaVu Sans, from a real report file; it holds no program.
+std::string SystemFontRecord() {
+  const std::string report = zebtest::ReadFile(fs::path(ZEB_EXAMPLES) / "statement" / "report.xml");
+  const std::string end = "</FontInformation>";
+  const std::size_t begin = report.find("<FontInformation>");
+  return report.substr(begin, report.find(end, begin) + end.size() - begin);
+}
+
+bool IsDejaVuInstalled() { return fs::exists("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"); }
+
+TEST(FontInformationRecord, AnInstalledFontNeedsNoPool) {
+  if (!IsDejaVuInstalled()) GTEST_SKIP() << "the package fonts-dejavu-core is not installed";
+  ReadFont font;
+  LoadRecord(font.Font(), SystemFontRecord());
+  EXPECT_STREQ(font->GetBaseFont(), L"DejaVu Sans");
+  EXPECT_NE(font->GetTTFile(), nullptr);
+  EXPECT_NE(font->GetWidthAt('A'), 0);
+}
+
+TEST(FontInformationRecord, AnInstalledFontGoesIntoThePool) {
+  if (!IsDejaVuInstalled()) GTEST_SKIP() << "the package fonts-dejavu-core is not installed";
+  const ScopedFontPool pool;
+  ReadFont font;
+  LoadRecord(font.Font(), SystemFontRecord());
+  EXPECT_TRUE(fs::exists(pool.Folder().File("DejaVu Sans.fd")));
+  EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"DejaVu Sans"));
 }
 
 }  // namespace

@@ -2,14 +2,20 @@
 
 #include "fonts/EncodingInformation.h"
 #include "fonts/Encodings.h"
+#include "fonts/FontInformation.h"
+#include "fonts/FontMetrics.h"
+#include "fonts/Fonts.h"
 #include "fonts/GlobalFontHandler.h"
 #include "model/ReportDocument.h"
 #include "model/ReportLayout.h"
+#include "support/RaisedKey.h"
 #include "support/RecordFixture.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -59,8 +65,10 @@ TEST(FontRecords, ADocumentWritesItsEncodingsBehindItsZones) {
 
 TEST(FontRecords, ADocumentReadsItsEncodings) {
   CReportDocument document;
-  LoadRecord(document, "<ReportDocument><VersionNr>2</VersionNr><FontInformation/>" + Record("one") +
-                           Record("two") + "<ReportLayoutName>l.xml</ReportLayoutName></ReportDocument>");
+  LoadRecord(
+      document,
+      "<ReportDocument><VersionNr>2</VersionNr><FontInformation><FontType>0</FontType></FontInformation>" +
+          Record("one") + Record("two") + "<ReportLayoutName>l.xml</ReportLayoutName></ReportDocument>");
   CEncodings& encodings = *document.GetFontHandler()->GetEncodings();
   ASSERT_EQ(encodings.GetEncodingCount(), StandardCount() + 2);
   const CEncodingInformation* first = encodings.GetEncodingAt(StandardCount());
@@ -87,7 +95,7 @@ TEST(FontRecords, ALayoutOfTheOldFormReadsItsEncodings) {
   LoadRecord(
       layout,
       "<ReportLayout><VersionNr>2</VersionNr><ReportLayoutID>0</ReportLayoutID><LayoutRect/><LayoutRect/>"
-      "<FontInformation/>" +
+      "<FontInformation><FontType>0</FontType></FontInformation>" +
           Record("one") + "</ReportLayout>");
   EXPECT_NE(layout.GetFontHandler()->GetEncodings()->FindEncoding(L"one"), nullptr);
 }
@@ -109,6 +117,96 @@ TEST(FontRecords, ManyEncodingsAreCut) {
                            "<ReportLayoutName>l.xml</ReportLayoutName></ReportDocument>");
   EXPECT_EQ(document.GetFontHandler()->GetEncodings()->GetEncodingCount(),
             StandardCount() + zeb::kMostEncodingsOfFile);
+  EXPECT_STREQ(document.GetReportLayoutName(), L"l.xml");
+}
+
+/// Fonts that every list begins with.
+int StandardFontCount() {
+  const CGlobalFontHandler handler;
+  return handler.GetFonts()->GetFontCount();
+}
+
+CFontInformation& AddFont(CGlobalFontHandler& handler, const wchar_t* name) {
+  auto* const font = new CFontInformation(handler.GetFonts());
+  handler.GetFonts()->AddFont(font);
+  font->GetFontMetrics()->SetBaseFont(name);
+  font->GetFontMetrics()->SetFontType(CFontMetrics::FontTypeType1);
+  return *font;
+}
+
+/// The names of the font records in a text, in order.
+std::vector<std::string> FontNames(const std::string& text) {
+  std::vector<std::string> names;
+  const std::string begin = "<FontInformation><BaseFont>";
+  for (std::size_t at = text.find(begin); at != std::string::npos; at = text.find(begin, at + 1)) {
+    const std::size_t name = at + begin.size();
+    names.push_back(text.substr(name, text.find('<', name) - name));
+  }
+  return names;
+}
+
+TEST(FontRecords, BuiltInFontsAreNotWritten) {
+  CReportDocument document;
+  EXPECT_NE(document.GetFontHandler()->GetFonts()->GetFontAt(0), nullptr);
+  EXPECT_EQ(SaveRecord(document).find("FontInformation"), std::string::npos);
+}
+
+TEST(FontRecords, FontsAreWrittenInTheirOrderInFrontOfTheEncodings) {
+  CReportDocument document;
+  AddEncoding(*document.GetFontHandler(), L"one");
+  AddFont(*document.GetFontHandler(), L"B");
+  AddFont(*document.GetFontHandler(), L"A");
+  const std::string record = SaveRecord(document);
+  EXPECT_EQ(FontNames(record), (std::vector<std::string>{"B", "A"}));
+  EXPECT_LT(record.rfind("</FontInformation>"), record.find("<EncodingInformation>"));
+}
+
+TEST(FontRecords, ADocumentReadsItsFonts) {
+  CReportDocument document;
+  AddFont(*document.GetFontHandler(), L"B");
+  AddFont(*document.GetFontHandler(), L"A");
+  CReportDocument loaded;
+  const std::string record = SaveRecord(document);
+  LoadRecord(loaded, record);
+  CFonts& fonts = *loaded.GetFontHandler()->GetFonts();
+  ASSERT_EQ(fonts.GetFontCount(), StandardFontCount() + 2);
+  EXPECT_STREQ(fonts.GetFontAt(StandardFontCount())->GetFontMetrics()->GetBaseFont(), L"B");
+  EXPECT_STREQ(fonts.GetFontAt(StandardFontCount() + 1)->GetFontMetrics()->GetBaseFont(), L"A");
+  EXPECT_NE(fonts.FindFont(L"A", 400, false)->GetEncodingInformation(L"winansi1252"), nullptr);
+  EXPECT_EQ(SaveRecord(loaded), record);
+}
+
+TEST(FontRecords, ALayoutReadsItsFonts) {
+  CReportLayout layout;
+  AddFont(*layout.GetFontHandler(), L"A");
+  AddEncoding(*layout.GetFontHandler(), L"one");
+  const std::string children = SaveRecord(layout);
+  CReportLayout loaded;
+  LoadRecord(loaded, "<ReportLayout>" + children + "</ReportLayout>");
+  EXPECT_NE(loaded.GetFontHandler()->GetFonts()->FindFont(L"A", 400, false), nullptr);
+  EXPECT_NE(loaded.GetFontHandler()->GetEncodings()->FindEncoding(L"one"), nullptr);
+}
+
+TEST(FontRecords, AFontThatIsRefusedEndsTheReadingAndLeavesNothingBehind) {
+  CReportDocument document;
+  const std::string characters = "<CharMetricsInfo><Code>1</Code></CharMetricsInfo>";
+  const std::string record =
+      "<ReportDocument><FontInformation><BaseFont>A</BaseFont><FontType>0</FontType></FontInformation>"
+      "<FontInformation><BaseFont>No such font</BaseFont><FontType>2</FontType>" +
+      characters + "</FontInformation></ReportDocument>";
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(document, record); }), L"FontPoolIncomplete");
+  EXPECT_EQ(document.GetFontHandler()->GetFonts()->GetFontCount(), StandardFontCount() + 1);
+}
+
+// Attack: elements of a few bytes, each of which makes a font of 200 KiB.
+TEST(FontRecords, ManyFontsAreCut) {
+  CReportDocument document;
+  LoadRecord(document, "<ReportDocument>" +
+                           Repeated("<FontInformation><FontType>0</FontType></FontInformation>",
+                                    zeb::kMostFontsOfFile + 5) +
+                           "<ReportLayoutName>l.xml</ReportLayoutName></ReportDocument>");
+  EXPECT_EQ(document.GetFontHandler()->GetFonts()->GetFontCount(),
+            StandardFontCount() + zeb::kMostFontsOfFile);
   EXPECT_STREQ(document.GetReportLayoutName(), L"l.xml");
 }
 

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "fonts/BuiltInFonts.h"
+#include "fonts/FontCharMetricsInfo.h"
+#include "fonts/FontInformation.h"
+#include "fonts/FontMetrics.h"
+#include "fonts/Fonts.h"
+#include "fonts/GlobalFontHandler.h"
 #include "foundation/IDManager.h"
 #include "foundation/XMLFile.h"
 #include "model/FormulaValueHolder.h"
@@ -18,8 +24,8 @@
 
 namespace zebtest {
 
-/// The objects of a report that nobody owns: formulas that zones define but do not place, and the elements of table
-/// cells on pages. Collected while the report lives, freed at the end of the scope.
+/// The objects of a report that nobody owns: formulas that zones define but do not place, the elements of table cells on
+/// pages, and the records of the characters of fonts. Collected while the report lives, freed at the end of the scope.
 class UnownedOfReport {
  public:
   UnownedOfReport() = default;
@@ -27,6 +33,7 @@ class UnownedOfReport {
   UnownedOfReport& operator=(const UnownedOfReport&) = delete;
   ~UnownedOfReport() {
     for (CPlaceable* object : m_objects) delete object;
+    for (CFontCharMetricsInfo* character : m_characters) delete character;
   }
 
   void Collect(CReportDocument& document) {
@@ -38,10 +45,24 @@ class UnownedOfReport {
     }
     // What a zone owns is not ours, even if it is defined as well.
     for (int i = 0; i < document.GetReportZoneCount(); ++i) Forget(document.GetReportZoneAt(i));
+    Collect(document.GetFontHandler());
   }
 
   void Collect(const CReportLayout& layout) {
     for (int i = 0; i < layout.GetPageCount(); ++i) Collect(*layout.GetPageAt(i));
+    Collect(layout.GetFontHandler());
+  }
+
+  void Collect(const CGlobalFontHandler* handler) {
+    if (handler == nullptr) return;
+    // Built-in fonts stand first. They have no such records, and asking for them would make them.
+    const CFonts& fonts = *handler->GetFonts();
+    for (int i = static_cast<int>(zeb::BuiltInFonts::kCount); i < fonts.GetFontCount(); ++i) {
+      const CFontMetrics& metrics = *fonts.GetFontAt(i)->GetFontMetrics();
+      for (int j = 0; j < metrics.GetFontCharMetricsCount(); ++j) {
+        m_characters.insert(metrics.GetFontCharMetricsAt(j));
+      }
+    }
   }
 
   void Collect(CLayoutPage& page) {
@@ -67,6 +88,7 @@ class UnownedOfReport {
   }
 
   std::set<CPlaceable*> m_objects;
+  std::set<CFontCharMetricsInfo*> m_characters;
 };
 
 /// Calls the object's Load with the root element of this text. The object keeps nothing of the text.

@@ -52,35 +52,6 @@ void RequireEqualBytes(const fs::path& first, const fs::path& second) {
   }
 }
 
-/// The number of elements of the name among the children of `parent`.
-int CountChildren(zebxmln::CXMLNode* parent, const std::wstring& name) {
-  int count = 0;
-  for (zebxmln::CXMLNode** child = parent->GetChildNodes(); *child != nullptr; ++child) {
-    if (name == (*child)->GetNodeName()) ++count;
-  }
-  return count;
-}
-
-/// The number of font records in a report or layout file.
-int CountFonts(const fs::path& path) {
-  if (path.empty()) return 0;
-  try {
-    zebxmln::CXMLDocument* document = zebxmln::CXMLManager::GetInstance().LoadDocument(
-        FromPath(path).c_str(), true, false, nullptr, false, false);
-    zebxmln::CXMLNode* root = document->GetRootNode();
-    int count = CountChildren(root, L"FontInformation");
-    for (zebxmln::CXMLNode** child = root->GetChildNodes(); *child != nullptr; ++child) {
-      if (std::wstring(L"ReportDocument") == (*child)->GetNodeName()) {
-        count += CountChildren(*child, L"FontInformation");
-      }
-    }
-    document->DestroyDocument();
-    return count;
-  } catch (const zebxmln::CXMLException& exception) {
-    throw Failure(FromPath(path) + L": " + exception.GetErrorMessage());
-  }
-}
-
 void RequireOtherFile(const fs::path& source, const fs::path& copy) {
   std::error_code error;
   if (fs::equivalent(source, copy, error) && !error) {
@@ -162,12 +133,6 @@ int RunCopy(ArgumentReader& arguments, std::wstring& output) {
   if (tree.unsavedTies > 0) {
     output += L"Layout files keep no ties of table cells on pages; ties that the copy lacks: " +
               std::to_wstring(tree.unsavedTies) + L".\n";
-  }
-  const int lostFonts = CountFonts(source.report) + CountFonts(source.layout) - CountFonts(copy.report) -
-                        CountFonts(copy.layout);
-  if (lostFonts > 0) {
-    output += L"Fonts inside the report are not carried yet; fonts that the copy lacks: " +
-              std::to_wstring(lostFonts) + L".\n";
   }
   return 0;
 }

@@ -2,13 +2,27 @@
 
 namespace zebreport {
 
+namespace {
+
+/// The standard and the CJK fonts, with which every list begins. They have no records of characters.
+constexpr int kBuiltInFonts = 14 + 11;
+
+}  // namespace
+
 UnownedObjects::~UnownedObjects() {
   for (CPlaceable* object : m_objects) delete object;
+  for (CFontCharMetricsInfo* character : m_characters) delete character;
 }
 
 void UnownedObjects::Collect(const CReportRootElement& report) {
-  if (report.GetReportDocument() != nullptr) CollectDefinedFormulas(*report.GetReportDocument());
-  if (report.GetReportLayout() != nullptr) CollectCellElements(*report.GetReportLayout());
+  if (CReportDocument* document = report.GetReportDocument()) {
+    CollectDefinedFormulas(*document);
+    CollectCharacters(*document->GetFontHandler());
+  }
+  if (const CReportLayout* layout = report.GetReportLayout()) {
+    CollectCellElements(*layout);
+    CollectCharacters(*layout->GetFontHandler());
+  }
 }
 
 // One that is placed as well is its zone's.
@@ -41,6 +55,16 @@ void UnownedObjects::CollectCellElements(const CReportLayout& layout) {
       for (int k = 0; cell != nullptr && k < cell->GetCellElementCount(); ++k) {
         m_objects.insert(cell->GetCellElementAt(k));
       }
+    }
+  }
+}
+
+void UnownedObjects::CollectCharacters(const CGlobalFontHandler& handler) {
+  const CFonts& fonts = *handler.GetFonts();
+  for (int i = kBuiltInFonts; i < fonts.GetFontCount(); ++i) {
+    const CFontMetrics& metrics = *fonts.GetFontAt(i)->GetFontMetrics();
+    for (int j = 0; j < metrics.GetFontCharMetricsCount(); ++j) {
+      m_characters.insert(metrics.GetFontCharMetricsAt(j));
     }
   }
 }

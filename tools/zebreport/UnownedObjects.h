@@ -6,8 +6,8 @@
 
 namespace zebreport {
 
-/// The objects of a report that nobody owns: formulas that zones define but do not place, and the elements of table
-/// cells on pages. Collects them while the report lives and frees them at its end.
+/// The objects of a report that nobody owns: formulas that zones define but do not place, the elements of table cells on
+/// pages, and the records of the characters of fonts. Collects them while the report lives and frees them at its end.
 class UnownedObjects {
  public:
   UnownedObjects() = default;
@@ -20,8 +20,10 @@ class UnownedObjects {
  private:
   void CollectDefinedFormulas(CReportDocument& document);
   void CollectCellElements(const CReportLayout& layout);
+  void CollectCharacters(const CGlobalFontHandler& handler);
 
   std::set<CPlaceable*> m_objects;
+  std::set<CFontCharMetricsInfo*> m_characters;
 };
 
 }  // namespace zebreport
