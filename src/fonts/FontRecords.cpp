@@ -1,5 +1,6 @@
 #include "fonts/FontRecords.h"
 
+#include "fonts/BuiltInFonts.h"
 #include "fonts/EncodingInformation.h"
 #include "fonts/Encodings.h"
 #include "fonts/FontCharMetricsInfo.h"
@@ -27,11 +28,15 @@ void ReadEncodings(RecordReader& reader, CEncodings& encodings, CIDManager& ids)
   }
 }
 
+void FreeCharactersOf(const CFontInformation& font) {
+  const CFontMetrics& metrics = *font.GetFontMetrics();
+  for (int i = 0; i < metrics.GetFontCharMetricsCount(); ++i) delete metrics.GetFontCharMetricsAt(i);
+}
+
 /// A font that is dropped takes the records of its characters along, which nobody else knows.
 struct FontWithCharacters {
   void operator()(CFontInformation* font) const {
-    const CFontMetrics& metrics = *font->GetFontMetrics();
-    for (int i = 0; i < metrics.GetFontCharMetricsCount(); ++i) delete metrics.GetFontCharMetricsAt(i);
+    FreeCharactersOf(*font);
     delete font;
   }
 };
@@ -63,6 +68,14 @@ void WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDM
   CEncodings& encodings = *handler.GetEncodings();
   for (int i = 0; i < encodings.GetEncodingCount(); ++i) {
     if (CEncodingInformation* encoding = encodings.GetEncodingAt(i)) encoding->Save(node, ids);
+  }
+}
+
+void FreeCharacters(const CGlobalFontHandler& handler) {
+  // The built-in fonts stand first; they have no such records.
+  const CFonts& fonts = *handler.GetFonts();
+  for (int i = static_cast<int>(BuiltInFonts::kCount); i < fonts.GetFontCount(); ++i) {
+    FreeCharactersOf(*fonts.GetFontAt(i));
   }
 }
 

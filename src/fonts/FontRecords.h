@@ -27,4 +27,8 @@ void ReadFontRecords(RecordReader& reader, CGlobalFontHandler& handler, CIDManag
 /// Writes the handler's fonts and encodings, other than the built-in ones, under the node.
 void WriteFontRecords(zebxmln::CXMLNode* node, CGlobalFontHandler& handler, CIDManager& ids);
 
+/// Frees the records of the characters of the handler's fonts, which nobody owns. For a handler that is about to end
+/// before any caller could see it.
+void FreeCharacters(const CGlobalFontHandler& handler);
+
 }  // namespace zeb

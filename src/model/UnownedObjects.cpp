@@ -1,5 +1,6 @@
 #include "model/UnownedObjects.h"
 
+#include "fonts/FontRecords.h"
 #include "model/FormulaValueHolder.h"
 #include "model/LayoutPage.h"
 #include "model/ObjectBinding.h"
@@ -52,6 +53,7 @@ LayoutInReading::LayoutInReading() : m_pLayout(std::make_unique<CReportLayout>()
 LayoutInReading::~LayoutInReading() {
   if (m_pLayout == nullptr) return;
   for (int i = 0; i < m_pLayout->GetPageCount(); ++i) DeleteCellElements(*m_pLayout->GetPageAt(i));
+  FreeCharacters(*m_pLayout->GetFontHandler());
 }
 
 }  // namespace zeb

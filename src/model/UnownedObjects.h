@@ -26,7 +26,7 @@ class UnownedObjects {
 };
 
 /// A layout that is being read. Where a failure passes, it ends with all that the file has put into it: also with the
-/// elements of its table cells, which no page owns.
+/// elements of its table cells, which no page owns, and the characters of its fonts.
 class LayoutInReading {
  public:
   LayoutInReading();

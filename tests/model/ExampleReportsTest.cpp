@@ -10,6 +10,7 @@
 #include "model/SumValueHolder.h"
 #include "support/LoadedReport.h"
 #include "support/ScopedEnvironment.h"
+#include "support/ScopedFontPool.h"
 #include "support/ScopedLocale.h"
 
 #include <gtest/gtest.h>
@@ -127,6 +128,8 @@ class ExampleReports : public ::testing::TestWithParam<Pair> {};
 }  // namespace
 
 TEST_P(ExampleReports, SavingSettlesAtOnce) {
+  // The programs of fonts leave the files for the pool.
+  const zebtest::ScopedFontPool pool;
   LoadedReport report;
   Load(report, GetParam().Report, GetParam().Layout);
   const Saved first = SaveAgain(Save(report));

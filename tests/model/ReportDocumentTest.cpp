@@ -153,7 +153,8 @@ TEST(ReportDocument, ReadsWhatFollowsFontsAndEncodings) {
   LoadedReport report;
   report.LoadReportText(
       DocumentFile("<VersionNr>2</VersionNr><ReportDocumentID>0</ReportDocumentID><ZoneID>1</ZoneID>"
-                   "<FontInformation/><FontInformation/><EncodingInformation/>"
+                   "<FontInformation><FontType>0</FontType></FontInformation>"
+                   "<FontInformation><FontType>0</FontType></FontInformation><EncodingInformation/>"
                    "<ReportLayoutName>l.xml</ReportLayoutName>"));
   EXPECT_STREQ(report.Document().GetReportLayoutName(), L"l.xml");
 }

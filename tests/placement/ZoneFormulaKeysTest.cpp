@@ -11,6 +11,7 @@
 #include "model/ReportZone.h"
 #include "model/SumValueHolder.h"
 #include "model/TableCell.h"
+#include "support/LoadedReport.h"
 #include "support/WidePath.h"
 
 #include <gtest/gtest.h>
@@ -410,15 +411,14 @@ class SampleReport {
     for (int i = 0; i < m_root.GetReportDocument()->GetReportZoneCount(); ++i) {
       CReportZone* zone = m_root.GetReportDocument()->GetReportZoneAt(i);
       zone->IdentifyFormulaValueHolderKeys();
-      for (int k = 0; k < zone->GetDefinedFormulaValueHoldersCount(); ++k)
-        m_defined.emplace_back(zone->GetDefinedFormulaValueHolderAt(k));
     }
+    m_unowned.Collect(*m_root.GetReportDocument());
   }
 
   const CReportZone& Zone(int index) { return *m_root.GetReportDocument()->GetReportZoneAt(index); }
 
  private:
-  std::vector<std::unique_ptr<CFormulaValueHolder>> m_defined;
+  zebtest::UnownedOfReport m_unowned;  // ends behind the report
   CReportRootElement m_root;
 };
 

@@ -4,6 +4,7 @@
 #include "LoadedReport.h"
 #include "ZEBReportDocument.h"
 #include "support/Files.h"
+#include "support/ScopedFontPool.h"
 #include "support/TempDir.h"
 #include "support/WidePath.h"
 
@@ -421,6 +422,7 @@ TEST_F(FileCheck, SaysNothingOfElementsThatAreAcceptedAndNotKept) {
 TEST_F(FileCheck, SaysNothingOfReportsThatTheLibraryWrote) {
   const std::filesystem::path examples = ZEB_EXAMPLES;
   const std::filesystem::path data = ZEB_TOOL_DATA;
+  const zebtest::ScopedFontPool pool;
   for (const std::filesystem::path& folder :
        {examples / "invoice", examples / "statement", examples / "legacy", data / "letter"}) {
     SCOPED_TRACE(folder);

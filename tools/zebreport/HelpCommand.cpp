@@ -16,6 +16,9 @@ int RunHelp(ArgumentReader& arguments, std::wstring& output) {
       L"folder.\n"
       L"Formulas are those of reports: names as in [x y], texts as in strcmp(Name; \"text\").\n"
       L"Fonts are TrueType files, or installed fonts by name; that is how those in collections are reached.\n"
+      L"--fonts FOLDER names the folder of the font pool, from which TrueType fonts come that are not "
+      L"installed, and\n"
+      L"which gets the fonts of a copy.\n"
       L"--catalogue FOLDER names the folder of the error catalogue, KXErrorMessages.xml.\n"
       L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, or check "
       L"found something, 2 wrong usage.\n";

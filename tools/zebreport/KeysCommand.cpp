@@ -15,10 +15,10 @@ namespace {
 class SuppliedReport {
  public:
   explicit SuppliedReport(const std::wstring& file) {
+    const std::wstring pool = CFontPool::GetInstance().GetFontPoolPath();
     const std::wstring catalogue = CKXExceptionHandler::GetInstance().GetExceptionNamePath();
     try {
-      // Only keys are asked for, so fonts may be missing.
-      m_report.LoadReport(file.c_str(), L"", catalogue.c_str());
+      m_report.LoadReport(file.c_str(), pool.c_str(), catalogue.c_str());
     } catch (const CKXException& exception) {
       throw LibraryFailure(file, exception);
     }

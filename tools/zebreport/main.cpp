@@ -3,6 +3,7 @@
 #include "Catalogue.h"
 #include "Commands.h"
 #include "Failure.h"
+#include "FontPool.h"
 #include "Utf8.h"
 
 #include <cstdio>
@@ -25,12 +26,14 @@ int Run(const char* program, const std::vector<std::wstring>& words) {
   try {
     ArgumentReader arguments(words);
     const auto catalogue = arguments.TakeOption(L"--catalogue", 1);
+    const auto fonts = arguments.TakeOption(L"--fonts", 1);
     const std::wstring name = arguments.TakeFirst();
     const Command* command = FindCommand(name);
     if (command == nullptr) {
       throw UsageFailure(L"there is no command " + name + L"; see zebreport help.");
     }
     UseCatalogue(catalogue.has_value() ? std::optional(catalogue->front()) : std::nullopt, program);
+    if (fonts.has_value()) UseFontPool(fonts->front());
     result = command->run(arguments, output);
   } catch (const UsageFailure& failure) {
     Complain(failure.what());
