@@ -29,17 +29,17 @@ class ByteReader {
   [[nodiscard]] bool Seek(std::size_t offset);
   [[nodiscard]] bool Skip(std::size_t count);
 
-  [[nodiscard]] bool ReadU8(std::uint8_t& value);
-  [[nodiscard]] bool ReadS8(std::int8_t& value);
-  [[nodiscard]] bool ReadU16BE(std::uint16_t& value);
-  [[nodiscard]] bool ReadS16BE(std::int16_t& value);
-  [[nodiscard]] bool ReadU24BE(std::uint32_t& value);
-  [[nodiscard]] bool ReadU32BE(std::uint32_t& value);
-  [[nodiscard]] bool ReadS32BE(std::int32_t& value);
-  [[nodiscard]] bool ReadU16LE(std::uint16_t& value);
-  [[nodiscard]] bool ReadS16LE(std::int16_t& value);
-  [[nodiscard]] bool ReadU32LE(std::uint32_t& value);
-  [[nodiscard]] bool ReadS32LE(std::int32_t& value);
+  [[nodiscard]] bool ReadU8(std::uint8_t& value) { return ReadBE<1>(value); }
+  [[nodiscard]] bool ReadS8(std::int8_t& value) { return ReadBE<1>(value); }
+  [[nodiscard]] bool ReadU16BE(std::uint16_t& value) { return ReadBE<2>(value); }
+  [[nodiscard]] bool ReadS16BE(std::int16_t& value) { return ReadBE<2>(value); }
+  [[nodiscard]] bool ReadU24BE(std::uint32_t& value) { return ReadBE<3>(value); }
+  [[nodiscard]] bool ReadU32BE(std::uint32_t& value) { return ReadBE<4>(value); }
+  [[nodiscard]] bool ReadS32BE(std::int32_t& value) { return ReadBE<4>(value); }
+  [[nodiscard]] bool ReadU16LE(std::uint16_t& value) { return ReadLE<2>(value); }
+  [[nodiscard]] bool ReadS16LE(std::int16_t& value) { return ReadLE<2>(value); }
+  [[nodiscard]] bool ReadU32LE(std::uint32_t& value) { return ReadLE<4>(value); }
+  [[nodiscard]] bool ReadS32LE(std::int32_t& value) { return ReadLE<4>(value); }
 
   /// The next `count` bytes, without a copy.
   [[nodiscard]] bool ReadSpan(std::size_t count, std::span<const std::byte>& bytes);
@@ -47,8 +47,27 @@ class ByteReader {
   [[nodiscard]] bool Part(std::size_t offset, std::size_t length, ByteReader& part) const;
 
  private:
-  [[nodiscard]] bool ReadBE(std::size_t count, std::uint32_t& value);
-  [[nodiscard]] bool ReadLE(std::size_t count, std::uint32_t& value);
+  template <std::size_t Count, class Number>
+  [[nodiscard]] bool ReadBE(Number& value) {
+    if (Count > Left()) return false;
+    std::uint32_t read = 0;
+    for (std::size_t i = 0; i < Count; ++i) read = read << 8U | At(i);
+    m_uOffset += Count;
+    value = static_cast<Number>(read);
+    return true;
+  }
+  template <std::size_t Count, class Number>
+  [[nodiscard]] bool ReadLE(Number& value) {
+    if (Count > Left()) return false;
+    std::uint32_t read = 0;
+    for (std::size_t i = Count; i > 0; --i) read = read << 8U | At(i - 1);
+    m_uOffset += Count;
+    value = static_cast<Number>(read);
+    return true;
+  }
+  std::uint32_t At(std::size_t index) const {
+    return std::to_integer<std::uint32_t>(m_Bytes[m_uOffset + index]);
+  }
 
   std::span<const std::byte> m_Bytes;
   std::size_t m_uOffset = 0;

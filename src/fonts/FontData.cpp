@@ -44,14 +44,19 @@ CFontData::~CFontData() { std::free(m_pBuffer); }
 
 CFontData& CFontData::operator=(const CFontData& other) = default;
 
-void CFontData::Grow(long long chunks) {
+void CFontData::Resize(long long chunks) {
   const long long capacity = m_iCapacity + chunks * m_iChunkSize;
   void* const buffer =
       capacity <= INT_MAX ? std::realloc(m_pBuffer, static_cast<std::size_t>(capacity)) : nullptr;
   if (buffer == nullptr) ThrowNoMoreMemory();
   m_pBuffer = static_cast<unsigned char*>(buffer);
-  std::fill(m_pBuffer + m_iCapacity, m_pBuffer + capacity, static_cast<unsigned char>(0));
   m_iCapacity = static_cast<int>(capacity);
+}
+
+void CFontData::Grow(long long chunks) {
+  const int before = m_iCapacity;
+  Resize(chunks);
+  std::fill(m_pBuffer + before, m_pBuffer + m_iCapacity, static_cast<unsigned char>(0));
 }
 
 void CFontData::ReAllocFontData(int count) {
@@ -87,7 +92,13 @@ void CFontData::AddFontMemData(void* data, int count) {
 }
 
 unsigned char* CFontData::ExtendContent(int count) {
-  ReAllocFontData(count);
+  const int before = m_iCapacity;
+  const long long end = static_cast<long long>(m_iLength) + count;
+  if (end > m_iCapacity) {
+    Resize(count / m_iChunkSize + 1LL);
+    std::fill(m_pBuffer + std::max<long long>(before, end), m_pBuffer + m_iCapacity,
+              static_cast<unsigned char>(0));
+  }
   unsigned char* const room = m_pBuffer + m_iLength;
   m_iLength += count;
   return room;

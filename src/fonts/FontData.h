@@ -116,8 +116,9 @@ class ZEB_EXPORT CFontData {
  private:
   friend class zeb::TrueTypeReader;
 
+  void Resize(long long chunks);
   void Grow(long long chunks);
-  /// Adds zeroed bytes to the content, for a reader that fills them in place; gives the first one.
+  /// Adds bytes of any value to the content, which the caller fills in place at once; gives the first one.
   unsigned char* ExtendContent(int count);
   void MakeRoomAtCursor(int count);
   unsigned int BigEndianAt(long long pos, int count) const;

@@ -44,9 +44,6 @@ unsigned short CTrueTypeCMap4::GetSearchRange() const { return m_usSearchRange; 
 unsigned short CTrueTypeCMap4::GetEntrySelector() const { return m_usEntrySelector; }
 unsigned short CTrueTypeCMap4::GetRangeShift() const { return m_usRangeShift; }
 
-int CTrueTypeCMap4::GetSegCount() const { return m_usSegCountX2 / 2; }
-unsigned short CTrueTypeCMap4::GetEndCodeAt(int segment) const { return m_pEndCode[segment]; }
-unsigned short CTrueTypeCMap4::GetStartCodeAt(int segment) const { return m_pStartCode[segment]; }
 unsigned short CTrueTypeCMap4::GetIdDeltaAt(int segment) const { return m_pIdDelta[segment]; }
 unsigned short CTrueTypeCMap4::GetIdRangeOffsetAt(int segment) const { return m_pIdRangeOffset[segment]; }
 int CTrueTypeCMap4::GetGlyphIdCount() const { return m_iGlyphIdCount; }

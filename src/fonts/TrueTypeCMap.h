@@ -59,10 +59,10 @@ class ZEB_EXPORT CTrueTypeCMap4 {
   unsigned short GetRangeShift() const;
 
   /// Half of segCountX2; a map that was read has at least one segment.
-  int GetSegCount() const;
+  int GetSegCount() const { return m_usSegCountX2 / 2; }
   /// @param segment 0 up to the count of segments less one, not checked; here and below
-  unsigned short GetEndCodeAt(int segment) const;
-  unsigned short GetStartCodeAt(int segment) const;
+  unsigned short GetEndCodeAt(int segment) const { return m_pEndCode[segment]; }
+  unsigned short GetStartCodeAt(int segment) const { return m_pStartCode[segment]; }
   unsigned short GetIdDeltaAt(int segment) const;
   unsigned short GetIdRangeOffsetAt(int segment) const;
   int GetGlyphIdCount() const;

@@ -2,7 +2,6 @@
 
 #include "platform/Export.h"
 
-#include <string>
 #include <vector>
 
 /// What is known of one glyph of a TrueType font, from all of its tables.
@@ -15,14 +14,15 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
   short GetLeftSideBearing() const { return m_sLeftSideBearing; }
   void SetLeftSideBearing(short bearing) { m_sLeftSideBearing = bearing; }
   /// From `post`; empty if the table has no names.
-  const wchar_t* GetGlyphName() const { return m_strGlyphName.c_str(); }
-  void SetGlyphName(const wchar_t* name) { m_strGlyphName = name; }
+  const wchar_t* GetGlyphName() const { return m_pGlyphName; }
+  /// Sets the name without copying it: it has to live as long as the entry.
+  void SetGlyphName(const wchar_t* name) { m_pGlyphName = name; }
   /// The index of the name in `post` format 2.
   unsigned short GetNameIndex() const { return m_usNameIndex; }
   void SetNameIndex(unsigned short index) { m_usNameIndex = index; }
   /// The character codes that map to the glyph, in the order in which they were found.
-  const std::vector<unsigned short>& GetCodes() const { return m_rgusCodes; }
-  void AddCode(unsigned short code) { m_rgusCodes.push_back(code); }
+  std::vector<unsigned short> GetCodes() const;
+  void AddCode(unsigned short code);
   /// Negative for a composite glyph.
   short GetNumberOfContours() const { return m_sNumberOfContours; }
   void SetNumberOfContours(short count) { m_sNumberOfContours = count; }
@@ -42,9 +42,11 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
  private:
   unsigned short m_usAdvanceWidth = 0;
   short m_sLeftSideBearing = 0;
-  std::wstring m_strGlyphName;
+  bool m_bHasCode = false;
+  unsigned short m_usFirstCode = 0;  // of those that map to the glyph
   unsigned short m_usNameIndex = 0;
-  std::vector<unsigned short> m_rgusCodes;
+  const wchar_t* m_pGlyphName = L"";            // observer
+  std::vector<unsigned short> m_rgusMoreCodes;  // behind the first one, which most glyphs have alone
   short m_sNumberOfContours = 0;
   short m_sXMin = 0;
   short m_sYMin = 0;
@@ -71,7 +73,11 @@ class ZEB_EXPORT CTrueTypeTabHMtx {
   CTrueTypeHMtxEntry* GetEntryAt(int glyph) const { return m_pEntries + glyph; }
   int GetEntryCount() const { return m_iCount; }
 
+  /// Keeps the text of names that entries point to. Takes ownership of an array; the earlier one is freed.
+  void SetGlyphNames(wchar_t* names);
+
  private:
-  CTrueTypeHMtxEntry* m_pEntries;  // owned, shared by copies; one block
+  CTrueTypeHMtxEntry* m_pEntries;    // owned, shared by copies; one block
+  wchar_t* m_pGlyphNames = nullptr;  // owned, shared by copies
   int m_iCount;
 };

@@ -5,8 +5,11 @@
 #include "fonts/TrueTypeTables.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <memory>
 #include <span>
+#include <vector>
 
 namespace zeb {
 
@@ -15,16 +18,6 @@ namespace {
 constexpr std::uint32_t kStandardNames = 0x10000;
 constexpr std::uint32_t kOwnNames = 0x20000;
 
-/// A string with a length byte in front, widened.
-std::wstring WidenPascalString(std::span<const std::byte> bytes) {
-  std::array<char, 256> text = {};
-  std::array<wchar_t, 256> wide = {};
-  std::transform(bytes.begin(), bytes.end(), text.begin(),
-                 [](std::byte byte) { return static_cast<char>(std::to_integer<unsigned char>(byte)); });
-  CFontMetrics::AnsiToUnicode(text.data(), wide.data());
-  return wide.data();
-}
-
 void NameGlyphsInOrder(CTrueTypeTabHMtx& glyphs) {
   const int count = std::min(glyphs.GetEntryCount(), static_cast<int>(kMacGlyphNames.size()));
   for (int glyph = 0; glyph < count; ++glyph) {
@@ -32,24 +25,40 @@ void NameGlyphsInOrder(CTrueTypeTabHMtx& glyphs) {
   }
 }
 
+/// The names of a font that are no standard ones, one behind the other with terminators.
+struct OwnNames {
+  std::unique_ptr<wchar_t[]> text;
+  std::vector<const wchar_t*> names;
+};
+
 /// Reads one string for each index that is not of a standard name. Glyphs may share a name, so there can be fewer.
-bool ReadOwnNames(ByteReader& in, std::size_t count, std::vector<std::span<const std::byte>>& names) {
-  names.reserve(std::min(count, in.Left()));
-  while (names.size() < count && !in.AtEnd()) {
+bool ReadOwnNames(ByteReader& in, std::size_t count, OwnNames& result) {
+  // Each string takes its length byte and its bytes, and becomes its characters and a terminator.
+  result.text.reset(new wchar_t[in.Left() + 1]);
+  result.names.reserve(std::min(count, in.Left()));
+  wchar_t* end = result.text.get();
+  std::array<char, 256> ansi = {};
+  while (result.names.size() < count && !in.AtEnd()) {
     std::uint8_t length = 0;
     std::span<const std::byte> bytes;
     if (!in.ReadU8(length) || !in.ReadSpan(length, bytes)) return false;
-    names.push_back(bytes);
+    char* const last = std::transform(bytes.begin(), bytes.end(), ansi.begin(), [](std::byte byte) {
+      return static_cast<char>(std::to_integer<unsigned char>(byte));
+    });
+    *last = '\0';
+    CFontMetrics::AnsiToUnicode(ansi.data(), end);
+    result.names.push_back(end);
+    end += length + 1;
   }
   return true;
 }
 
-void NameGlyph(CTrueTypeHMtxEntry& entry, const std::vector<std::span<const std::byte>>& ownNames) {
+void NameGlyph(CTrueTypeHMtxEntry& entry, const std::vector<const wchar_t*>& ownNames) {
   const std::size_t index = entry.GetNameIndex();
   if (index < kMacGlyphNames.size()) {
     entry.SetGlyphName(kMacGlyphNames[index]);
   } else if (index - kMacGlyphNames.size() < ownNames.size()) {
-    entry.SetGlyphName(WidenPascalString(ownNames[index - kMacGlyphNames.size()]).c_str());
+    entry.SetGlyphName(ownNames[index - kMacGlyphNames.size()]);
   }
 }
 
@@ -63,11 +72,12 @@ bool NameGlyphsByIndex(ByteReader& in, CTrueTypeTabHMtx& glyphs) {
     if (index >= kMacGlyphNames.size()) ++ownNameCount;
     if (glyph < glyphs.GetEntryCount()) glyphs.GetEntryAt(glyph)->SetNameIndex(index);
   }
-  std::vector<std::span<const std::byte>> ownNames;
-  if (!ReadOwnNames(in, ownNameCount, ownNames)) return false;
+  OwnNames own;
+  if (!ReadOwnNames(in, ownNameCount, own)) return false;
   for (int glyph = 0; glyph < std::min<int>(count, glyphs.GetEntryCount()); ++glyph) {
-    NameGlyph(*glyphs.GetEntryAt(glyph), ownNames);
+    NameGlyph(*glyphs.GetEntryAt(glyph), own.names);
   }
+  glyphs.SetGlyphNames(own.text.release());
   return true;
 }
 

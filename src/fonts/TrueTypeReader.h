@@ -63,6 +63,7 @@ class TrueTypeReader {
   void ChooseEncoding(const CTrueTypeCMap4& map);
   void FillWidths(const CTrueTypeCMap4& map);
   void FillWidthsOfSegments(const CTrueTypeCMap4& map);
+  unsigned short WidthOf(int glyph) const;
   void SetWidth(int code, int glyph);
 
   CTrueTypeFontMetrics& m_metrics;

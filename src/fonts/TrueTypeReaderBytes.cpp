@@ -5,6 +5,7 @@
 #include "platform/File.h"
 #include "platform/InstalledFont.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstddef>
 #include <span>
@@ -51,6 +52,7 @@ TrueTypeStatus TrueTypeReader::FetchFile() {
   const std::span<std::byte> room = MakeRoomForFont(static_cast<int>(file.Size()));
   std::size_t count = 0;
   const FileStatus status = file.Read(room, count);
+  std::fill(room.begin() + static_cast<std::ptrdiff_t>(count), room.end(), std::byte{0});
   // Fixed behaviour: a collection is not looked into here, so it lacks every table.
   return status == FileStatus::Ok && count == room.size() ? kTrueTypeDone : kTrueTypeUnreadableFile;
 }
@@ -63,7 +65,11 @@ TrueTypeStatus TrueTypeReader::FetchInstalledFont() {
     return kTrueTypeNotThere;
   if (font.Size() < kSmallestFont) return kTrueTypeNotThere;
   if (font.Size() > INT_MAX) return kTrueTypeNoMemory;
-  if (!font.Read(MakeRoomForFont(static_cast<int>(font.Size())))) return kTrueTypeNotThere;
+  const std::span<std::byte> room = MakeRoomForFont(static_cast<int>(font.Size()));
+  if (!font.Read(room)) {
+    std::fill(room.begin(), room.end(), std::byte{0});
+    return kTrueTypeNotThere;
+  }
   std::uint32_t tag = 0;
   if (!ByteReader(m_bytes).ReadU32BE(tag)) return kTrueTypeIncorrect;
   if (tag == kOpenTypeTag) {

@@ -153,23 +153,33 @@ void TrueTypeReader::FillWidthsOfSegments(const CTrueTypeCMap4& map) {
   m_metrics.SetLastChar(last);
   // As codes ascend, the first segment that does not end before the code only moves forward.
   int segment = 0;
+  const unsigned short none = WidthOf(0);
   for (int code = first; code <= last; ++code) {
     while (segment < count && map.GetEndCodeAt(segment) < code) ++segment;
-    SetWidth(code, map.GetGlyphOfSegment(segment < count ? segment : 0, static_cast<unsigned short>(code)));
+    const int glyph = map.GetGlyphOfSegment(segment < count ? segment : 0, static_cast<unsigned short>(code));
+    if (glyph != 0) {
+      SetWidth(code, glyph);
+    } else {
+      m_metrics.m_rgusWidths[code] = none;
+    }
   }
+}
+
+unsigned short TrueTypeReader::WidthOf(int glyph) const {
+  // Fixed behaviour: truncated, where other values are rounded.
+  const int width =
+      m_pFile->GetTabHMtx()->GetEntryAt(glyph)->GetAdvanceWidth() * 1000 / m_metrics.m_usUnitsPerEm;
+  return static_cast<unsigned short>(width);
 }
 
 void TrueTypeReader::SetWidth(int code, int glyph) {
   const CTrueTypeTabHMtx& glyphs = *m_pFile->GetTabHMtx();
   // Fixed behaviour: a glyph behind the last one is the last one.
   glyph = std::min(glyph, glyphs.GetEntryCount() - 1);
-  CTrueTypeHMtxEntry& entry = *glyphs.GetEntryAt(glyph);
-  // Fixed behaviour: truncated, where other values are rounded.
-  const int width = entry.GetAdvanceWidth() * 1000 / m_metrics.m_usUnitsPerEm;
-  m_metrics.SetWidthAt(code, static_cast<unsigned short>(width));
+  m_metrics.m_rgusWidths[code] = WidthOf(glyph);
   if (glyph == 0) return;
   const auto character = static_cast<unsigned short>(code);
-  entry.AddCode(character);
+  glyphs.GetEntryAt(glyph)->AddCode(character);
   m_metrics.AddUnicodeToGlyphIndex(character, static_cast<unsigned short>(glyph));
 }
 
