@@ -12,6 +12,8 @@ struct FontCommand {
 };
 
 constexpr FontCommand kFontCommands[] = {
+    {L"show", RunFontShow},
+    {L"glyph", RunFontGlyph},
     {L"subset", RunFontSubset},
 };
 

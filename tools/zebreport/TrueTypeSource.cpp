@@ -32,8 +32,6 @@ constexpr Refusal kRefusals[] = {
     {5001, L"WrongParameter", L"name a font with at most 32 characters"},
 };
 
-constexpr int kNormalWeight = 400;
-
 Failure FontFailure(const std::wstring& name, const CKXException& exception) {
   const auto* const refusal =
       std::find_if(std::begin(kRefusals), std::end(kRefusals),
@@ -71,7 +69,7 @@ void RequireSingleFont(const std::wstring& name) {
 
 }  // namespace
 
-void ReadTrueType(const std::wstring& name, CFontInformation& font) {
+void ReadTrueType(const std::wstring& name, CFontInformation& font, const FontStyle& style) {
   std::error_code error;
   const bool isFile = fs::exists(ToPath(name), error);
   if (isFile) {
@@ -81,7 +79,7 @@ void ReadTrueType(const std::wstring& name, CFontInformation& font) {
   }
   try {
     font.ReadTT(isFile ? nullptr : name.c_str(), isFile ? name.c_str() : nullptr, nullptr, true, false,
-                kNormalWeight, false);
+                style.weight, style.italic);
   } catch (const CKXException& exception) {
     throw FontFailure(isFile ? name : L"installed font " + name, exception);
   }
