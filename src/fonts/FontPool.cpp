@@ -2,6 +2,7 @@
 
 #include "fonts/FontData.h"
 #include "fonts/FontPoolEntry.h"
+#include "fonts/FontPoolFileName.h"
 #include "fonts/NameComparison.h"
 #include "foundation/RecordReader.h"
 #include "foundation/RecordWriter.h"
@@ -23,8 +24,6 @@ constexpr zeb::ElementName kBold = L"Bold";
 constexpr zeb::ElementName kItalic = L"Italic";
 constexpr zeb::ElementName kLocalizedFontNames = L"LocalizedFontNames";
 constexpr zeb::ElementName kFontData = L"FontData";
-
-constexpr std::wstring_view kExtension = L".fd";
 
 using EntryPointer = std::unique_ptr<CFontPoolEntry>;
 
@@ -63,26 +62,6 @@ bool HasLocalizedName(const CFontPoolEntry& entry, std::wstring_view name) {
   return false;
 }
 
-/// The font name as it stands, but for characters that the name of a file cannot hold.
-std::wstring FileNameOf(std::wstring_view fontName) {
-  constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
-  std::wstring name;
-  for (const wchar_t character : fontName) {
-    if (zeb::IsFileNameCharacter(character)) {
-      name += character;
-    } else {
-      const auto code = static_cast<unsigned>(character);
-      name += {L'%', kDigits[code / 16 % 16], kDigits[code % 16]};
-    }
-  }
-  return name.append(kExtension);
-}
-
-bool IsPoolFile(std::wstring_view name) {
-  return name.size() >= kExtension.size() &&
-         zeb::AreEqualIgnoringCase(name.substr(name.size() - kExtension.size()), kExtension);
-}
-
 }  // namespace
 
 CFontPool::CFontPool() = default;
@@ -104,7 +83,7 @@ void CFontPool::SetFontPoolPath(const wchar_t* path) {
 const wchar_t* CFontPool::GetFontPoolPath() const { return m_strFontPoolPath.c_str(); }
 
 std::wstring CFontPool::PathOf(const std::wstring& fontName) const {
-  return m_strFontPoolPath + FileNameOf(fontName);
+  return m_strFontPoolPath + zeb::FontPoolFileName(fontName);
 }
 
 CFontData* CFontPool::GetFontData(const wchar_t* fontName) {
@@ -134,7 +113,7 @@ void CFontPool::SetFontData(const wchar_t* fontName, const wchar_t* familyName, 
   entry->SetFontData(MakeFontData(data, length).release());
   CFontPoolEntry* const written = entry.get();
   AddFontDataEntry(name.c_str(), written);
-  if (Holds(*written)) entry.release();
+  if (Holds(*written)) static_cast<void>(entry.release());
   WriteFontData(PathOf(name).c_str(), written);
 }
 
@@ -157,7 +136,7 @@ void CFontPool::ReadAvailableFonts() {
   std::vector<std::wstring> names;
   zeb::ListFiles(m_strFontPoolPath, names);
   for (const std::wstring& name : names) {
-    if (IsPoolFile(name)) ReadFontData((m_strFontPoolPath + name).c_str());
+    if (zeb::IsFontPoolFileName(name)) ReadFontData((m_strFontPoolPath + name).c_str());
   }
 }
 
@@ -169,7 +148,7 @@ void CFontPool::ReadFontData(const wchar_t* file) {
     reader.Read(kVersionNr, m_iVersionNr);
     EntryPointer entry = ReadEntry(reader);
     AddFontDataEntry(entry->GetFontName(), entry.get());
-    if (Holds(*entry)) entry.release();
+    if (Holds(*entry)) static_cast<void>(entry.release());
   } catch (const zebxmln::CXMLException&) {
     // A file that is missing or damaged is one that the pool does not have.
     return;

@@ -31,6 +31,7 @@ int RunFont(ArgumentReader& arguments, std::wstring& output);
 int RunHelp(ArgumentReader& arguments, std::wstring& output);
 int RunKeys(ArgumentReader& arguments, std::wstring& output);
 int RunOrder(ArgumentReader& arguments, std::wstring& output);
+int RunPool(ArgumentReader& arguments, std::wstring& output);
 int RunRtf(ArgumentReader& arguments, std::wstring& output);
 int RunShow(ArgumentReader& arguments, std::wstring& output);
 int RunType(ArgumentReader& arguments, std::wstring& output);

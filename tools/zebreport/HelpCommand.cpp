@@ -20,7 +20,8 @@ int RunHelp(ArgumentReader& arguments, std::wstring& output) {
       L"installed, and\n"
       L"which gets the fonts of a copy.\n"
       L"--catalogue FOLDER names the folder of the error catalogue, KXErrorMessages.xml.\n"
-      L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, or check "
+      L"Exit codes: 0 done, 1 a file could not be read, written or understood, or a formula is bad, or a "
+      L"check "
       L"found something, 2 wrong usage.\n";
   return 0;
 }
