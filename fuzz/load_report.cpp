@@ -48,6 +48,9 @@ constexpr std::array kRecords = {
     "RefOffsetPt",
     "SimplePt",
     "PictureData",
+    "CharMetricsInfo",
+    "Ligatures",
+    "FontData",
 };
 
 constexpr std::array kFields = {
@@ -93,6 +96,11 @@ constexpr std::array kFields = {
     "RefVHID",
     "FontName",
     "FontSize",
+    "BaseFont",
+    "FontType",
+    "FontDataLength",
+    "Widths",
+    "UnicodeFont",
 };
 
 struct Files {
