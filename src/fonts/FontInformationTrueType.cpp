@@ -6,6 +6,7 @@
 #include "foundation/ErrorKeys.h"
 #include "foundation/KXExceptionHandler.h"
 
+#include <memory>
 #include <utility>
 
 namespace {
@@ -42,7 +43,9 @@ CTrueTypeFontMetrics& CFontInformation::UseTrueTypeMetrics() {
 
 void CFontInformation::ReadTT(const wchar_t* faceName, const wchar_t* filePath, const wchar_t* encoding,
                               bool unicode, bool reuseData, int bold, bool italic) {
-  // The PostScript metrics are gone also if the font is refused, so the others become current before that.
+  // The face may be named by the PostScript metrics that end here.
+  const std::unique_ptr<CPostscriptFontMetrics> before(std::exchange(m_pPostscriptMetrics, nullptr));
+  // They are gone also if the font is refused, so the others become current before that.
   const int status =
       UseTrueTypeMetrics().ReadTrueTypeFont(faceName, filePath, encoding, unicode, reuseData, bold, italic);
   if (status != zeb::kTrueTypeDone) CKXExceptionHandler::GetInstance().ThrowException(KeyOfStatus(status));

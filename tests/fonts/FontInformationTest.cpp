@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -67,6 +68,15 @@ TEST(FontInformation, MetricsAndProgramOfAPostScriptFontGoIntoOneObject) {
   EXPECT_EQ(font.Font().GetFontMetrics(), metrics);
   EXPECT_STREQ(metrics->GetBaseFont(), L"Sample");
   EXPECT_EQ(metrics->GetFontData()->GetLength1(), 2);
+}
+
+TEST(FontInformation, TheFaceMayBeNamedByTheMetricsThatItReplaces) {
+  CFontInformation font(nullptr);
+  font.GetFontMetrics()->SetBaseFont(L"No Such Face");
+  const std::wstring key = zebtest::RaisedKey(
+      [&] { font.ReadTT(font.GetFontMetrics()->GetBaseFont(), nullptr, nullptr, true, false, 400, false); });
+  EXPECT_EQ(key, L"TrueTypeCreationFailed");
+  EXPECT_STREQ(font.GetFontMetrics()->GetBaseFont(), L"");
 }
 
 /// The place of a virtual operation in its class's table: a pointer to it holds the offset plus 1.
