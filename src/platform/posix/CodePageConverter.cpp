@@ -12,22 +12,6 @@ namespace zeb {
 
 namespace {
 
-/// The Windows page that stands in for a double-byte Macintosh page; any other page itself.
-int NearestPage(int number) {
-  switch (number) {
-    case 10001:
-      return 932;  // Japanese
-    case 10002:
-      return 950;  // traditional Chinese
-    case 10003:
-      return 949;  // Korean
-    case 10008:
-      return 936;  // simplified Chinese
-    default:
-      return number;
-  }
-}
-
 class MacintoshConverter : public CodePageConverter {
  public:
   explicit MacintoshConverter(const MacintoshPage& page) : m_Page(page) {}
@@ -68,7 +52,6 @@ class IconvConverter : public CodePageConverter {
 }  // namespace
 
 std::unique_ptr<CodePageConverter> CodePageConverter::Open(int number) {
-  number = NearestPage(number);
   const auto* const macintosh =
       std::find_if(kMacintoshPages.begin(), kMacintoshPages.end(),
                    [&](const MacintoshPage& page) { return page.Number == number; });

@@ -11,22 +11,6 @@ namespace zeb {
 
 namespace {
 
-/// The Windows page that stands in for a double-byte Macintosh page, as on every platform; any other page itself.
-UINT NearestPage(int number) {
-  switch (number) {
-    case 10001:
-      return 932;  // Japanese
-    case 10002:
-      return 950;  // traditional Chinese
-    case 10003:
-      return 949;  // Korean
-    case 10008:
-      return 936;  // simplified Chinese
-    default:
-      return static_cast<UINT>(number);
-  }
-}
-
 class SystemConverter : public CodePageConverter {
  public:
   explicit SystemConverter(UINT number) : m_uiNumber(number) {}
@@ -50,7 +34,7 @@ class SystemConverter : public CodePageConverter {
 }  // namespace
 
 std::unique_ptr<CodePageConverter> CodePageConverter::Open(int number) {
-  const UINT page = NearestPage(number);
+  const auto page = static_cast<UINT>(number);
   CPINFO info = {};
   if (GetCPInfo(page, &info) == 0 || info.MaxCharSize > 2) return nullptr;
   return std::make_unique<SystemConverter>(page);
