@@ -210,29 +210,3 @@ void CRTFParser::AppendPlainText(unsigned char ch) {
   }
   m_TextBuffer.append(text.data(), count);
 }
-
-int CRTFParser::ParseChar(unsigned char ch) {
-  if (m_ris == risBin && --m_cbBin < 1) m_ris = risNorm;
-  switch (m_rds) {
-    case rdsNorm:
-    case rdsListText:
-      return PrintChar(ch);
-    case rdsFontEntry:
-    case rdsStyleEntry:
-      m_NameBuffer += static_cast<wchar_t>(ch);
-      break;
-    case rdsColorTable:
-      if (ch == ';') EndColor();
-      break;
-    case rdsPicture:
-      ParsePictureByte();
-      break;
-    case rdsBookmarkStart:
-    case rdsBookmarkEnd:
-      m_BookmarkBuffer += static_cast<wchar_t>(ch);
-      break;
-    default:
-      break;
-  }
-  return rtfOK;
-}

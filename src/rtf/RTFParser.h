@@ -291,8 +291,12 @@ class ZEB_EXPORT CRTFParser {
   /// Decodes one or two hex bytes by the code page of the current font, then zeroes both bytes.
   /// @param bytes room for two bytes
   void ParseMultiByteCharacter(char* bytes, int count);
+  /// Sends a decoded character to what the destination is building. In text, PrintUnicodeChar takes it.
   int ParseUnicodeChar(wchar_t ch);
+  /// Appends a byte-sized character, widened by its value, to the buffer of the destination. In a table it notes the
+  /// current formatting for the cell.
   int PrintChar(unsigned char ch);
+  /// Appends a character to the buffer of the destination. A zero character is dropped.
   int PrintUnicodeChar(wchar_t ch);
   /// Reads the hex digits of a picture.
   void ReadPictureData();
@@ -411,6 +415,10 @@ class ZEB_EXPORT CRTFParser {
   void FreeDestinationTables();
 
   // Characters.
+  /// In raw bytes, one less is to come.
+  void CountRawByte();
+  /// The formatting of a run in a table is that of its latest byte-sized character.
+  void NoteCellFormatting();
   int ParseUnicodeProperty(int value);
   /// The code page of the current font's character set.
   const zeb::CodePage& CurrentCodePage();

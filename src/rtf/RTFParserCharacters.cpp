@@ -67,8 +67,19 @@ void CRTFParser::ParseMultiByteCharacter(char* bytes, int count) {
   bytes[1] = 0;
 }
 
-int CRTFParser::ParseUnicodeChar(wchar_t ch) {
+void CRTFParser::CountRawByte() {
   if (m_ris == risBin && --m_cbBin < 1) m_ris = risNorm;
+}
+
+int CRTFParser::ParseChar(unsigned char ch) {
+  // Elsewhere it makes no difference whether a character was a single byte.
+  if (m_rds != rdsNorm && m_rds != rdsListText) return ParseUnicodeChar(static_cast<wchar_t>(ch));
+  CountRawByte();
+  return PrintChar(ch);
+}
+
+int CRTFParser::ParseUnicodeChar(wchar_t ch) {
+  CountRawByte();
   switch (m_rds) {
     case rdsNorm:
     case rdsListText:
@@ -130,33 +141,28 @@ int CRTFParser::PrintChar(unsigned char ch) {
     case rdsLevelText:
     case rdsLevelNumbers:
     case rdsListText:
-      m_NameBuffer += character;
-      return rtfOK;
+    case rdsPn:
     case rdsBookmarkStart:
     case rdsBookmarkEnd:
-      m_BookmarkBuffer += character;
-      return rtfOK;
     case rdsPnTextBefore:
-      m_PnBefore += character;
-      return rtfOK;
     case rdsPnTextAfter:
-      m_PnAfter += character;
-      return rtfOK;
-    case rdsPn:
-      return rtfOK;
+      return PrintUnicodeChar(character);
     default:
       break;
   }
+  // Fixed behaviour: in names of fonts and styles and in a table of colours as well, this goes into the text.
   m_TextBuffer += character;
-  if (m_ParProps.InTable != 0) {
-    m_CellFont = static_cast<unsigned short>(m_FontProps.FontId);
-    m_CellFontSize = static_cast<unsigned short>(m_CharProps.FontSize);
-    m_CellBold = m_CharProps.Bold;
-    m_CellItalic = m_CharProps.Italic;
-    m_CellSuper = m_CharProps.Superscript;
-    m_CellSub = m_CharProps.Subscript;
-  }
+  if (m_ParProps.InTable != 0) NoteCellFormatting();
   return rtfOK;
+}
+
+void CRTFParser::NoteCellFormatting() {
+  m_CellFont = static_cast<unsigned short>(m_FontProps.FontId);
+  m_CellFontSize = static_cast<unsigned short>(m_CharProps.FontSize);
+  m_CellBold = m_CharProps.Bold;
+  m_CellItalic = m_CharProps.Italic;
+  m_CellSuper = m_CharProps.Superscript;
+  m_CellSub = m_CharProps.Subscript;
 }
 
 int CRTFParser::ParseUnicodeProperty(int value) {

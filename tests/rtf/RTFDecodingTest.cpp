@@ -210,6 +210,26 @@ TEST(RTFDecoding, UnicodeInAColorTableIsDropped) {
   EXPECT_EQ(reading.Parser().GetColorAtID(1), nullptr);
 }
 
+// Text of old list numbers is dropped, and so are its \u characters, except in \pntext: they go where text goes.
+TEST(RTFDecoding, UnicodeInOldListNumbersIsNoText) {
+  EXPECT_EQ(RTFReading(R"({\rtf1{\*\pn\u65?a{\pntxtb\u66?(}{\pntxta\u67?)}}b})").Outline(), L"[b]");
+  EXPECT_EQ(RTFReading(R"({\rtf1{\pntxtb\u65?(}{\pntxta\u66?)}b})").Outline(), L"[b]");
+}
+
+// The font that a name belongs to is in no table yet while the name is read.
+TEST(RTFDecoding, FixedFontNamesAreDecodedByTheSystemsPage) {
+  const auto name = [] {
+    const RTFReading reading(R"({\fonttbl{\f0\fcharset238 \'c0;}})");
+    return std::wstring(reading.Parser().GetFontAtID(0)->GetFontFaceName());
+  };
+  {
+    const ScopedEnvironment language("LC_ALL", "ru_RU.UTF-8");
+    EXPECT_EQ(name(), L"\x410");
+  }
+  const ScopedEnvironment language("LC_ALL", "C");
+  EXPECT_EQ(name(), L"\xC0");
+}
+
 TEST(RTFDecoding, UnicodeMakesNames) {
   const RTFReading reading(
       R"({\rtf1{\fonttbl{\f0 \u65?rial\u252?;}}{\*\bkmkstart \u65?b\'63}{\*\bkmkend \u65?}})");
@@ -266,6 +286,7 @@ class OpenParser : public CRTFParser {
 
 struct DestinationRow {
   CRTFParser::RDS destination;
+  const char* parseChar;
   const char* parseUnicodeChar;
   const char* printUnicodeChar;
   const char* printChar;
@@ -273,31 +294,35 @@ struct DestinationRow {
 
 // rdsPicture drops the character here, since no wrapper announced the picture.
 constexpr DestinationRow kDestinations[] = {
-    {CRTFParser::rdsNorm, "T", "T", "T"},
-    {CRTFParser::rdsSkip, "", "T", "T"},
-    {CRTFParser::rdsFontTable, "", "T", "T"},
-    {CRTFParser::rdsFontEntry, "N", "N", "T"},
-    {CRTFParser::rdsStyleSheet, "", "T", "T"},
-    {CRTFParser::rdsStyleEntry, "N", "N", "T"},
-    {CRTFParser::rdsColorTable, "", "", "T"},
-    {CRTFParser::rdsPicture, "", "T", "T"},
-    {CRTFParser::rdsListTable, "", "T", "T"},
-    {CRTFParser::rdsListLevel, "", "T", "T"},
-    {CRTFParser::rdsLevelText, "", "N", "N"},
-    {CRTFParser::rdsLevelNumbers, "", "N", "N"},
-    {CRTFParser::rdsListOverrideTable, "", "T", "T"},
-    {CRTFParser::rdsListText, "N", "N", "N"},
-    {CRTFParser::rdsPn, "", "", ""},
-    {CRTFParser::rdsBookmarkStart, "B", "B", "B"},
-    {CRTFParser::rdsBookmarkEnd, "B", "B", "B"},
-    {CRTFParser::rdsPnText, "", "T", "T"},
-    {CRTFParser::rdsPnTextBefore, "", "b", "b"},
-    {CRTFParser::rdsPnTextAfter, "", "a", "a"},
+    {CRTFParser::rdsNorm, "T", "T", "T", "T"},
+    {CRTFParser::rdsSkip, "", "", "T", "T"},
+    {CRTFParser::rdsFontTable, "", "", "T", "T"},
+    {CRTFParser::rdsFontEntry, "N", "N", "N", "T"},
+    {CRTFParser::rdsStyleSheet, "", "", "T", "T"},
+    {CRTFParser::rdsStyleEntry, "N", "N", "N", "T"},
+    {CRTFParser::rdsColorTable, "", "", "", "T"},
+    {CRTFParser::rdsPicture, "", "", "T", "T"},
+    {CRTFParser::rdsListTable, "", "", "T", "T"},
+    {CRTFParser::rdsListLevel, "", "", "T", "T"},
+    {CRTFParser::rdsLevelText, "", "", "N", "N"},
+    {CRTFParser::rdsLevelNumbers, "", "", "N", "N"},
+    {CRTFParser::rdsListOverrideTable, "", "", "T", "T"},
+    {CRTFParser::rdsListText, "N", "N", "N", "N"},
+    {CRTFParser::rdsPn, "", "", "", ""},
+    {CRTFParser::rdsBookmarkStart, "B", "B", "B", "B"},
+    {CRTFParser::rdsBookmarkEnd, "B", "B", "B", "B"},
+    {CRTFParser::rdsPnText, "", "", "T", "T"},
+    {CRTFParser::rdsPnTextBefore, "", "", "b", "b"},
+    {CRTFParser::rdsPnTextAfter, "", "", "a", "a"},
 };
 static_assert(std::size(kDestinations) == 20);
 
 TEST(RTFDecoding, EveryDestinationHasItsBuffer) {
   for (const DestinationRow& row : kDestinations) {
+    OpenParser parsedByte;
+    parsedByte.m_rds = row.destination;
+    EXPECT_EQ(parsedByte.ParseChar('x'), 0);
+    EXPECT_EQ(parsedByte.Buffers(), row.parseChar) << row.destination;
     OpenParser parsed;
     parsed.m_rds = row.destination;
     EXPECT_EQ(parsed.ParseUnicodeChar(L'x'), 0);
@@ -387,6 +412,14 @@ TEST(RTFDecoding, RepairsNoMoreThan255BytesOfAFontName) {
   std::string name;
   for (int count = 0; count < 128; ++count) name += R"(\u16705?)";  // the bytes of AA
   EXPECT_EQ(FontName(R"(\ansicpg936)", name), std::wstring(255, L'A'));
+}
+
+// The limit cuts the last pair in two: such bytes do not convert.
+TEST(RTFDecoding, FixedA936NameOf128PairsStaysAsItIs) {
+  std::string name;
+  for (int count = 0; count < 127; ++count) name += R"(\u52174?)";
+  EXPECT_EQ(FontName(R"(\ansicpg936)", name), std::wstring(127, L'\x5B8B'));
+  EXPECT_EQ(FontName(R"(\ansicpg936)", name + R"(\u52174?)"), std::wstring(128, L'\xCBCE'));
 }
 
 }  // namespace
