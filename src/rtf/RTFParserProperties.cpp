@@ -188,7 +188,8 @@ int CRTFParser::ParseStyleProperty(int value) {
 
 int CRTFParser::ParseColorProperty(IPROP prop, int value) {
   // Fixed behaviour: a part of a colour outside of the colour table ends the reading.
-  if (m_rds != rdsColorTable || m_pCurColor == nullptr) return rtfBadTable;
+  if (m_rds != rdsColorTable) return rtfBadTable;
+  if (m_pCurColor == nullptr) BeginColorTable();
   const auto part = static_cast<unsigned char>(value);
   if (prop == ipropRed) m_pCurColor->SetRed(part);
   if (prop == ipropGreen) m_pCurColor->SetGreen(part);

@@ -204,6 +204,19 @@ TEST(RTFTables, TakesNestedColorTables) {
   EXPECT_EQ(Parts(reading, 2), RGB(3, 0, 0));
 }
 
+TEST(RTFTables, GoesOnWithANewColorBehindANestedTable) {
+  const RTFReading reading(R"({\colortbl\red1{\pict{\colortbl\red2}}\green3;})");
+  EXPECT_EQ(reading.Result(), 0);
+  EXPECT_EQ(Parts(reading, 0), RGB(0, 3, 0));
+  EXPECT_EQ(Parts(reading, 1), kNone);
+}
+
+TEST(RTFTables, ARawSemicolonEndsAColor) {
+  const RTFReading reading(R"({\colortbl\red1\bin1 ;\red2;})");
+  EXPECT_EQ(Parts(reading, 0), RGB(1, 0, 0));
+  EXPECT_EQ(Parts(reading, 1), RGB(2, 0, 0));
+}
+
 TEST(RTFTables, ColorsClearTheNameBuffer) {
   const RTFReading reading(R"({\rtf1{\*\listtable{\list{\listlevel{\leveltext\u65?}}}}{\fonttbl{\f0 X;}}})");
   EXPECT_EQ(FontName(reading, 0), L"X");
