@@ -1,3 +1,4 @@
+#include "rtf/ParserProbe.h"
 #include "rtf/RTFListLevelEntry.h"
 #include "rtf/RTFListTableEntry.h"
 #include "rtf/RecordingHandler.h"
@@ -178,6 +179,29 @@ TEST(RTFLists, ListKeywordsMeanNothingElsewhere) {
     EXPECT_EQ(List(reading), nullptr) << keyword;
     EXPECT_EQ(Level(reading), nullptr) << keyword;
   }
+}
+
+TEST(RTFLists, OverrideKeywordsSetTheOverride) {
+  zebtest::ParserProbe probe(
+      R"({\*\listoverridetable{\listoverride\listid7\listoverridecount3\ls4}{\listoverride\listid8}})");
+  EXPECT_EQ(probe.RtfParse(), 0);
+  ASSERT_EQ(probe.m_ListOverrides.size(), 2U);
+  EXPECT_EQ(probe.m_ListOverrides[0]->GetListId(), 7);
+  EXPECT_EQ(probe.m_ListOverrides[0]->GetLevelCount(), 3);
+  EXPECT_EQ(probe.m_ListOverrides[0]->GetLs(), 4);
+  EXPECT_EQ(probe.m_ListOverrides[1]->GetListId(), 8);
+  EXPECT_EQ(probe.m_ListOverrides[1]->GetLevelCount(), 1);
+  EXPECT_EQ(probe.m_ListOverrides[1]->GetLs(), 0);
+  EXPECT_TRUE(probe.m_Lists.empty());
+}
+
+// The search leaves the list that it looked at last as the current one.
+TEST(RTFLists, FixedAReferenceWithoutAListTakesTheLastOne) {
+  zebtest::ParserProbe probe(R"({\rtf1{\*\listtable{\list\listid1}{\list\listid2}})"
+                             R"({\*\listoverridetable{\listoverride\listid3\ls1}}\ls1 x})");
+  EXPECT_EQ(probe.RtfParse(), 5);
+  ASSERT_EQ(probe.m_Lists.size(), 2U);
+  EXPECT_EQ(probe.m_pCurList, probe.m_Lists[1]);
 }
 
 TEST(RTFLists, TableKeywordsNeedAList) {

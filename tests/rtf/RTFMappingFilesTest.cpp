@@ -94,6 +94,11 @@ TEST_F(RTFMappingFiles, ReadsOnce) {
   parser.ReadGB2312Mapping();
   fs::remove(m_Folder.File("GB-EUC-H"));
   EXPECT_EQ(MessageOf([&] { parser.ReadGB2312Mapping(); }), L"");
+  Copy("Adobe-CNS1", "ETen-B5-H");
+  Copy("Adobe-CNS1", "Adobe-CNS1-UCS2");
+  parser.ReadBigFiveMapping();
+  fs::remove(m_Folder.File("ETen-B5-H"));
+  EXPECT_EQ(MessageOf([&] { parser.ReadBigFiveMapping(); }), L"");
 }
 
 TEST_F(RTFMappingFiles, ThrowsWithThePathOfAMissingFile) {

@@ -112,6 +112,12 @@ TEST(RTFOutputTest, TextWithoutHandlerHasLineFeedsForRuns) {
   EXPECT_EQ(TextWithoutHandler(""), L"");
 }
 
+TEST(RTFOutputTest, FixedTextWithoutHandlerHasLineFeedsForTablesOfTheHeader) {
+  EXPECT_EQ(TextWithoutHandler(R"({{\fonttbl{\f0 A;}}{\colortbl;}{\info{\author x}}b})"), L"\n\n\n\n\nb\n");
+  // Destinations with a buffer of their own take the line feed along.
+  EXPECT_EQ(TextWithoutHandler(R"({{\listtext 1.}{\*\pn}{\*\bkmkstart m}b})"), L"b\n");
+}
+
 TEST(RTFOutputTest, TextWithoutHandlerStaysBehindFailure) {
   EXPECT_EQ(TextWithoutHandler("{abc", CRTFParser::rtfUnmatchedBrace), L"abc");
 }

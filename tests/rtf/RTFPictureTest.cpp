@@ -65,6 +65,13 @@ TEST(RTFPictureTest, PictureOfOtherFormatComesAtOnceWithTheTextBeforeIt) {
   EXPECT_EQ(reading.Runs()[1].m_State.CharProps.PicWidthGoal, 0);
 }
 
+TEST(RTFPictureTest, PictureOfOtherFormatComesAtOnceInATable) {
+  const RTFReading reading(R"({\trowd\cellx9\intbl a{\*\shppict{\pict\jpegblip 4142}}b\cell})");
+  ASSERT_EQ(reading.Outline(), L"[a][b]P");
+  EXPECT_EQ(reading.Runs()[0].m_strPicture, "AB");
+  EXPECT_FALSE(reading.Runs()[1].m_bPicture);
+}
+
 TEST(RTFPictureTest, PictureSizesAreReported) {
   const RTFReading reading(R"({{\shppict{\pict\picw1\pich2\picwgoal3\pichgoal4\picscalex5\picscaley6 41}}})");
   ASSERT_EQ(reading.Runs().size(), 1U);

@@ -1,5 +1,6 @@
 #include "ZEBReportDocument.h"
 
+#include "rtf/ParserProbe.h"
 #include "rtf/RecordingHandler.h"
 
 #include <gtest/gtest.h>
@@ -283,6 +284,21 @@ TEST_F(RTFTableTest, LeftEdgeAndHeaderOfRowsAreKept) {
   const RTFReading reading(R"({\trowd\trleft-108\trhdr\cellx1\intbl a\cell})");
   EXPECT_EQ(Doc(reading, 0).RowLeft, 108);  // the sign of a number has no effect
   EXPECT_EQ(Doc(reading, 0).RowHeader, 1);
+}
+
+TEST_F(RTFTableTest, FillingWithoutAPositionStartsAtTheFirstRowThatIsThere) {
+  CRTFTableCell cell;
+  CRTFTableRow first;
+  first.Cells.push_back(&cell);
+  CRTFTableRow second;
+  zebtest::ParserProbe probe;
+  probe.m_DocProps.Rows = {&first, &second};
+  probe.m_DocProps.CurrentRow = &second;
+  EXPECT_EQ(probe.ApplyPropChange(CRTFParser::ipropInTable, 1), 0);
+  EXPECT_EQ(probe.m_DocProps.RowIndex, 0);
+  EXPECT_EQ(probe.m_DocProps.CurrentRow, &first);
+  EXPECT_EQ(probe.m_DocProps.CellIndex, 0);
+  EXPECT_EQ(probe.m_DocProps.CurrentCell, &cell);
 }
 
 // The end of a table.
