@@ -23,7 +23,7 @@ class ZEB_EXPORT CRTFTabStop {
 };
 
 /// The 100 tab stops of a paragraph, all zero at the start. A copy shares the block with its source until one of
-/// both is written to.
+/// both is written to: a reference for writing is good until its object is copied.
 class ZEB_EXPORT CRTFTabStops {
  public:
   static constexpr int kCount = 100;
