@@ -31,58 +31,58 @@ std::vector<std::size_t> CellCounts(const CDocumentProperties& props) {
 
 using Counts = std::vector<std::size_t>;
 
-class RTFTableTest : public ::testing::Test {
+class RTFTableRowsTest : public ::testing::Test {
  protected:
   static constexpr const char* kTwoCells = R"(\trowd\cellx100\cellx250\intbl )";
 };
 
 // Rows and cells.
 
-TEST_F(RTFTableTest, CellIsOneRun) {
+TEST_F(RTFTableRowsTest, CellIsOneRun) {
   const RTFReading reading(R"({\trowd\cellx9\intbl a\b b\i c\b0 d\f1 e\cell\row})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(reading.Outline(), L"[abcde]P[]T");
 }
 
-TEST_F(RTFTableTest, GroupsInACellCloseNoRun) {
+TEST_F(RTFTableRowsTest, GroupsInACellCloseNoRun) {
   const RTFReading reading(R"({\trowd\cellx9\intbl{a}{\b b}\cell\row})");
   EXPECT_EQ(reading.Outline(), L"[ab]P");
 }
 
-TEST_F(RTFTableTest, SuperscriptEndInACellClosesNoRun) {
+TEST_F(RTFTableRowsTest, SuperscriptEndInACellClosesNoRun) {
   const RTFReading reading(R"({\trowd\cellx9\intbl\super a\nosupersub b\cell\row})");
   EXPECT_EQ(reading.Outline(), L"[ab]P[]T");
 }
 
-TEST_F(RTFTableTest, LineInACellClosesRun) {
+TEST_F(RTFTableRowsTest, LineInACellClosesRun) {
   const RTFReading reading(R"({\trowd\cellx9\intbl a\line b\cell\row})");
   EXPECT_EQ(reading.Outline(), L"[a]L[b]P[]T");
 }
 
-TEST_F(RTFTableTest, ParagraphInACellIsALineFeed) {
+TEST_F(RTFTableRowsTest, ParagraphInACellIsALineFeed) {
   const RTFReading reading(R"({\trowd\cellx9\intbl a\par b\cell\row})");
   EXPECT_EQ(reading.Outline(), L"[a\nb]P[]T");
 }
 
-TEST_F(RTFTableTest, ParagraphBehindTheRowLeavesTheTable) {
+TEST_F(RTFTableRowsTest, ParagraphBehindTheRowLeavesTheTable) {
   const RTFReading reading(R"({\trowd\cellx9\intbl a\cell\row\par b\par})");
   EXPECT_EQ(reading.Outline(), L"[a]P[\nb]P");
   EXPECT_EQ(reading.Runs()[1].m_State.ParProps.InTable, 0);
 }
 
-TEST_F(RTFTableTest, ParagraphResetEndsTheTable) {
+TEST_F(RTFTableRowsTest, ParagraphResetEndsTheTable) {
   const RTFReading reading(R"({\trowd\cellx9\intbl a\cell\row\pard b\par})");
   ASSERT_EQ(reading.Outline(), L"[a]P[]T[b]P");
   EXPECT_EQ(reading.Runs()[1].m_State.ParProps.InTable, 1);
   EXPECT_EQ(reading.Runs()[2].m_State.ParProps.InTable, 0);
 }
 
-TEST_F(RTFTableTest, ParagraphResetTakesTheTextOfTheCellAlong) {
+TEST_F(RTFTableRowsTest, ParagraphResetTakesTheTextOfTheCellAlong) {
   const RTFReading reading(R"({\trowd\cellx9\intbl a\pard b})");
   EXPECT_EQ(reading.Outline(), L"[a]T[b]");
 }
 
-TEST_F(RTFTableTest, PositionsCountUp) {
+TEST_F(RTFTableRowsTest, PositionsCountUp) {
   const RTFReading reading(std::string("{") + kTwoCells +
                            R"(a\cell b\cell\row\trowd\cellx70\intbl c\cell\row})");
   ASSERT_EQ(reading.Outline(), L"[a]P[b]P[c]P[]T");
@@ -139,7 +139,7 @@ class Look {
   CRTFParser m_Parser;
 };
 
-TEST_F(RTFTableTest, DescriptionMakesRowsAndCells) {
+TEST_F(RTFTableRowsTest, DescriptionMakesRowsAndCells) {
   const Look look(R"({\trowd\cellx100\cellx250\intbl a\cell b\cell\row\trowd\cellx70\intbl c\cell\row})");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{2});
   EXPECT_EQ(look.Cell(0, 0).RightEdge, 100);
@@ -148,7 +148,7 @@ TEST_F(RTFTableTest, DescriptionMakesRowsAndCells) {
   EXPECT_EQ(look.Cell(2, 2).RightEdge, 70);
 }
 
-TEST_F(RTFTableTest, NewCellStartsAsACopyOfTheLastOne) {
+TEST_F(RTFTableRowsTest, NewCellStartsAsACopyOfTheLastOne) {
   const Look look(
       R"({\trowd\clbrdrt\brdrw1\clbrdrb\brdrw2\clbrdrl\brdrw3\clbrdrr\brdrw4\clvertalc\cellx100\clvertalb\cellx200)"
       R"(\intbl a\cell})");
@@ -164,14 +164,14 @@ TEST_F(RTFTableTest, NewCellStartsAsACopyOfTheLastOne) {
   EXPECT_EQ(look.Cell(0, 1).RightEdge, 200);
 }
 
-TEST_F(RTFTableTest, NewCellCarriesTheEdgeOver) {
+TEST_F(RTFTableRowsTest, NewCellCarriesTheEdgeOver) {
   // The second cell is described by a border alone.
   const Look look(R"({\trowd\cellx100\clbrdrt\intbl a\cell})");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{2});
   EXPECT_EQ(look.Cell(0, 1).RightEdge, 100);
 }
 
-TEST_F(RTFTableTest, RowBordersGoToTheRow) {
+TEST_F(RTFTableRowsTest, RowBordersGoToTheRow) {
   const Look look(
       R"({\trowd\trbrdrt\brdrw1\trbrdrb\brdrw2\trbrdrl\brdrw3\trbrdrr\brdrw4\cellx9\intbl a\cell})");
   const CRTFTableRow& row = look.Seen().m_Rows[0].at(0);
@@ -182,20 +182,20 @@ TEST_F(RTFTableTest, RowBordersGoToTheRow) {
   EXPECT_EQ(look.Cell(0, 0).BorderTop, 0);
 }
 
-TEST_F(RTFTableTest, RowBorderKeywordsMakeARow) {
+TEST_F(RTFTableRowsTest, RowBorderKeywordsMakeARow) {
   const Look look(R"({\trbrdrt\brdrw7\cellx9\intbl a\cell})");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{1});
   EXPECT_EQ(look.Seen().m_Rows[0].at(0).BorderTop, 7);
 }
 
-TEST_F(RTFTableTest, CellKeywordsMakeARow) {
+TEST_F(RTFTableRowsTest, CellKeywordsMakeARow) {
   for (const char* keyword : {"cellx5", "clbrdrt", "clbrdrb", "clbrdrl", "clbrdrr", "clvertalt"}) {
     const Look look(std::string("{\\") + keyword + R"(\intbl a\cell})");
     EXPECT_EQ(look.Seen().m_Counts[0], Counts{1}) << keyword;
   }
 }
 
-TEST_F(RTFTableTest, BorderWidthWithoutASideOrARowDoesNothing) {
+TEST_F(RTFTableRowsTest, BorderWidthWithoutASideOrARowDoesNothing) {
   const Look look(R"({\brdrw7\trowd\brdrw8\clvertalt\brdrw9\cellx1\intbl a\cell})");
   const CRTFTableRow& row = look.Seen().m_Rows[0].at(0);
   EXPECT_EQ(row.BorderTop + row.BorderBottom + row.BorderLeft + row.BorderRight, 0);
@@ -203,20 +203,20 @@ TEST_F(RTFTableTest, BorderWidthWithoutASideOrARowDoesNothing) {
   EXPECT_EQ(cell.BorderTop + cell.BorderBottom + cell.BorderLeft + cell.BorderRight, 0);
 }
 
-TEST_F(RTFTableTest, IgnoredBorderKeywordsAreNoFailure) {
+TEST_F(RTFTableRowsTest, IgnoredBorderKeywordsAreNoFailure) {
   const Look look(R"({\trowd\trbrdrh\brdrw7\trbrdrv\brdrs\brdrw8\cellx1\intbl a\cell})");
   const CRTFTableRow& row = look.Seen().m_Rows[0].at(0);
   EXPECT_EQ(row.BorderTop + row.BorderBottom + row.BorderLeft + row.BorderRight, 0);
 }
 
-TEST_F(RTFTableTest, AlignmentOfACellBeingFilledChanges) {
+TEST_F(RTFTableRowsTest, AlignmentOfACellBeingFilledChanges) {
   const Look look(R"({\trowd\cellx1\cellx2\intbl\clvertalb a\cell\clvertalc b\cell})");
   EXPECT_EQ(look.Cell(0, 0).VerticalAlign, 2);
   EXPECT_EQ(look.Cell(0, 1).VerticalAlign, 0);
   EXPECT_EQ(look.Cell(1, 1).VerticalAlign, 1);
 }
 
-TEST_F(RTFTableTest, DescriptionOfARowBeingFilledIsPassedOver) {
+TEST_F(RTFTableRowsTest, DescriptionOfARowBeingFilledIsPassedOver) {
   const Look look(R"({\trowd\cellx1\intbl a\trowd\cellx2\trbrdrt\brdrw5\clbrdrt\brdrw6\intbl\cell\row})");
   EXPECT_EQ(look.Seen().m_Texts[0], L"a");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{1});
@@ -225,20 +225,20 @@ TEST_F(RTFTableTest, DescriptionOfARowBeingFilledIsPassedOver) {
   EXPECT_EQ(look.Seen().m_Rows[0].at(0).BorderTop, 0);
 }
 
-TEST_F(RTFTableTest, FillingWithoutDescriptionMakesARowAndACell) {
+TEST_F(RTFTableRowsTest, FillingWithoutDescriptionMakesARowAndACell) {
   const Look look(R"({\intbl a\cell})");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{1});
   EXPECT_EQ(look.Seen().m_CurrentRow[0] == nullptr, false);
   EXPECT_EQ(look.Seen().m_CurrentCell[0] == nullptr, false);
 }
 
-TEST_F(RTFTableTest, FillingWithoutDescriptionStartsAtTheFirstPlace) {
+TEST_F(RTFTableRowsTest, FillingWithoutDescriptionStartsAtTheFirstPlace) {
   const RTFReading reading(R"({\intbl a\cell})");
   EXPECT_EQ(Doc(reading, 0).RowIndex, 0);
   EXPECT_EQ(Doc(reading, 0).CellIndex, 0);
 }
 
-TEST_F(RTFTableTest, RowDescribedOnceIsFilledAgain) {
+TEST_F(RTFTableRowsTest, RowDescribedOnceIsFilledAgain) {
   const RTFReading reading(std::string("{") + kTwoCells + R"(a\cell b\cell\row\intbl c\cell d\cell\row})");
   ASSERT_EQ(reading.Outline(), L"[a]P[b]P[c]P[d]P[]T");
   EXPECT_EQ(Doc(reading, 2).RowIndex, 0);
@@ -247,7 +247,7 @@ TEST_F(RTFTableTest, RowDescribedOnceIsFilledAgain) {
   EXPECT_EQ(Doc(reading, 3).Rows.size(), 1U);
 }
 
-TEST_F(RTFTableTest, CellBehindTheLastOneHasNoPlace) {
+TEST_F(RTFTableRowsTest, CellBehindTheLastOneHasNoPlace) {
   const RTFReading reading(R"({\trowd\cellx1\intbl a\cell b\cell c\cell\row})");
   ASSERT_EQ(reading.Outline(), L"[a]P[b]P[c]P[]T");
   EXPECT_EQ(Doc(reading, 1).CellIndex, -1);
@@ -256,7 +256,7 @@ TEST_F(RTFTableTest, CellBehindTheLastOneHasNoPlace) {
   EXPECT_EQ(Doc(reading, 2).CellIndex, 0);
 }
 
-TEST_F(RTFTableTest, CellWithoutATableEndsAParagraph) {
+TEST_F(RTFTableRowsTest, CellWithoutATableEndsAParagraph) {
   const RTFReading reading(R"({a\cell b\row c})");
   EXPECT_EQ(reading.Result(), 0);
   ASSERT_EQ(reading.Outline(), L"[a]P[bc]");
@@ -264,7 +264,7 @@ TEST_F(RTFTableTest, CellWithoutATableEndsAParagraph) {
   EXPECT_EQ(Doc(reading, 1).RowIndex, -1);
 }
 
-TEST_F(RTFTableTest, FixedRowBehindAGroupOfCellsGoesOnWithTheirFirstCell) {
+TEST_F(RTFTableRowsTest, FixedRowBehindAGroupOfCellsGoesOnWithTheirFirstCell) {
   // The end of a group brings back the cell that was being filled, and a new row does not put it away.
   const Look look(R"({\trowd\cellx1\cellx2\intbl{a\cell b\cell}{\row}\trowd\cellx5\cellx6\intbl c\cell})");
   ASSERT_EQ(look.Seen().m_Texts, (std::vector<std::wstring>{L"a", L"b", L"c"}));
@@ -273,20 +273,20 @@ TEST_F(RTFTableTest, FixedRowBehindAGroupOfCellsGoesOnWithTheirFirstCell) {
   EXPECT_EQ(look.Cell(2, 2).RightEdge, 6);
 }
 
-TEST_F(RTFTableTest, FixedCellsThatAreGroupsHaveTheSameIndex) {
+TEST_F(RTFTableRowsTest, FixedCellsThatAreGroupsHaveTheSameIndex) {
   const RTFReading reading(R"({\trowd\cellx1\cellx2\intbl{a\cell}{b\cell}\row})");
   ASSERT_EQ(reading.Outline(), L"[a]P[b]P");
   EXPECT_EQ(Doc(reading, 0).CellIndex, 0);
   EXPECT_EQ(Doc(reading, 1).CellIndex, 0);
 }
 
-TEST_F(RTFTableTest, LeftEdgeAndHeaderOfRowsAreKept) {
+TEST_F(RTFTableRowsTest, LeftEdgeAndHeaderOfRowsAreKept) {
   const RTFReading reading(R"({\trowd\trleft-108\trhdr\cellx1\intbl a\cell})");
   EXPECT_EQ(Doc(reading, 0).RowLeft, 108);  // the sign of a number has no effect
   EXPECT_EQ(Doc(reading, 0).RowHeader, 1);
 }
 
-TEST_F(RTFTableTest, FillingWithoutAPositionStartsAtTheFirstRowThatIsThere) {
+TEST_F(RTFTableRowsTest, FillingWithoutAPositionStartsAtTheFirstRowThatIsThere) {
   CRTFTableCell cell;
   CRTFTableRow first;
   first.Cells.push_back(&cell);
@@ -303,7 +303,7 @@ TEST_F(RTFTableTest, FillingWithoutAPositionStartsAtTheFirstRowThatIsThere) {
 
 // The end of a table.
 
-TEST_F(RTFTableTest, GroupThatLeavesTheTableEndsIt) {
+TEST_F(RTFTableRowsTest, GroupThatLeavesTheTableEndsIt) {
   const RTFReading reading(R"({x{\trowd\cellx1\intbl a\cell\row}b})");
   ASSERT_EQ(reading.Outline(), L"[xa]P[]T[b]");
   // The record of the end has the formatting of the group around the table.
@@ -313,7 +313,7 @@ TEST_F(RTFTableTest, GroupThatLeavesTheTableEndsIt) {
   EXPECT_EQ(Doc(reading, 2).Rows.size(), 0U);
 }
 
-TEST_F(RTFTableTest, FixedGroupInACellTakesTheEndOfTheTableFromTheGroupAroundIt) {
+TEST_F(RTFTableRowsTest, FixedGroupInACellTakesTheEndOfTheTableFromTheGroupAroundIt) {
   // A group that closes leaves its paragraph settings, the table among them, as those to restore at the next end.
   const RTFReading reading(R"({\trowd\cellx1\intbl{a}\cell\row})");
   EXPECT_EQ(reading.Outline(), L"[a]P");
@@ -322,7 +322,7 @@ TEST_F(RTFTableTest, FixedGroupInACellTakesTheEndOfTheTableFromTheGroupAroundIt)
   EXPECT_EQ(around.Runs()[1].m_State.ParProps.InTable, 1);
 }
 
-TEST_F(RTFTableTest, RowsOfATableThatHasEndedAreGone) {
+TEST_F(RTFTableRowsTest, RowsOfATableThatHasEndedAreGone) {
   const Look look(R"({\trowd\cellx1{\intbl a\cell\row}\trowd\cellx2\cellx3\intbl b\cell})");
   ASSERT_EQ(look.Seen().m_Texts, (std::vector<std::wstring>{L"a", L"", L"b", L""}));
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{1});
@@ -331,7 +331,7 @@ TEST_F(RTFTableTest, RowsOfATableThatHasEndedAreGone) {
   EXPECT_EQ(look.Seen().m_Counts[2], Counts{2});
 }
 
-TEST_F(RTFTableTest, SavedGroupsKnowNothingOfAFreedTable) {
+TEST_F(RTFTableRowsTest, SavedGroupsKnowNothingOfAFreedTable) {
   // The row is in the outermost group, whose end must not find it again.
   const RTFReading reading(R"({\trowd\cellx1{{\intbl a\cell\row}b}c})");
   EXPECT_EQ(reading.Result(), 0);
@@ -342,7 +342,7 @@ TEST_F(RTFTableTest, SavedGroupsKnowNothingOfAFreedTable) {
   EXPECT_EQ(Doc(reading, 3).CurrentRow, nullptr);
 }
 
-TEST_F(RTFTableTest, RowsOutliveTheirTable) {
+TEST_F(RTFTableRowsTest, RowsOutliveTheirTable) {
   // Records that a handler has copied may still name them.
   const RTFReading reading(R"({{\trowd\trbrdrt\brdrw3\cellx77\intbl a\cell\row}b})");
   ASSERT_EQ(reading.Outline(), L"[a]P[]T[b]");
@@ -350,20 +350,20 @@ TEST_F(RTFTableTest, RowsOutliveTheirTable) {
   EXPECT_EQ(Doc(reading, 0).CurrentCell->RightEdge, 77);
 }
 
-TEST_F(RTFTableTest, RowsOfAGroupGoWithIt) {
+TEST_F(RTFTableRowsTest, RowsOfAGroupGoWithIt) {
   const Look look(R"({\trowd\cellx1{\trowd\cellx2}\intbl a\cell})");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{1});
   EXPECT_EQ(look.Cell(0, 0).RightEdge, 1);
 }
 
-TEST_F(RTFTableTest, RowsOfAFlatTableStayBehindIt) {
+TEST_F(RTFTableRowsTest, RowsOfAFlatTableStayBehindIt) {
   const Look look(R"({\trowd\cellx1\intbl a\cell\row\pard b\par\trowd\cellx2\cellx3\intbl c\cell})");
   ASSERT_EQ(look.Seen().m_Texts, (std::vector<std::wstring>{L"a", L"", L"b", L"c", L""}));
   EXPECT_EQ(look.Seen().m_Counts[2], Counts{1});
   EXPECT_EQ(look.Seen().m_Counts[3], (Counts{1, 2}));
 }
 
-TEST_F(RTFTableTest, FixedRowGoesOnOutsideOfTheTableBehindAParagraphReset) {
+TEST_F(RTFTableRowsTest, FixedRowGoesOnOutsideOfTheTableBehindAParagraphReset) {
   // A second \intbl has no effect before the row's end.
   const RTFReading reading(std::string("{") + kTwoCells + R"(a\cell\pard\intbl b\cell\row\pard c})");
   ASSERT_EQ(reading.Outline(), L"[a]P[]T[b]P[c]");
@@ -373,7 +373,7 @@ TEST_F(RTFTableTest, FixedRowGoesOnOutsideOfTheTableBehindAParagraphReset) {
 
 // The formatting of cells.
 
-TEST_F(RTFTableTest, FixedPlainTextNotesNoFormatting) {
+TEST_F(RTFTableRowsTest, FixedPlainTextNotesNoFormatting) {
   const RTFReading reading(R"({\f2\fs30\b\i\super\trowd\cellx1\intbl a\cell\row})");
   EXPECT_EQ(Chars(reading, 0).CellFontId, 0);
   EXPECT_EQ(Chars(reading, 0).FontSize, 0);
@@ -383,7 +383,7 @@ TEST_F(RTFTableTest, FixedPlainTextNotesNoFormatting) {
   EXPECT_EQ(Chars(reading, 0).Subscript, 0);
 }
 
-TEST_F(RTFTableTest, TabQuoteAndLineFeedNoteFormatting) {
+TEST_F(RTFTableRowsTest, TabQuoteAndLineFeedNoteFormatting) {
   for (const char* noting : {R"(\tab)", R"(\ldblquote)", R"(\rdblquote)", R"(\par)", R"(\bin1 x)"}) {
     const RTFReading reading(std::string(R"({\trowd\cellx1\intbl a\f2\fs30\b\i\super\sub)") + noting +
                              R"(\f3\b0 b\cell\row})");
@@ -399,38 +399,38 @@ TEST_F(RTFTableTest, TabQuoteAndLineFeedNoteFormatting) {
   }
 }
 
-TEST_F(RTFTableTest, UnderlineOfACellIsTheCurrentOne) {
+TEST_F(RTFTableRowsTest, UnderlineOfACellIsTheCurrentOne) {
   const RTFReading reading(R"({\trowd\cellx1\intbl\tab a\ul\cell\row})");
   EXPECT_EQ(Chars(reading, 0).Underline, 1);
 }
 
-TEST_F(RTFTableTest, FontOfACellIsTheNotedOne) {
+TEST_F(RTFTableRowsTest, FontOfACellIsTheNotedOne) {
   const RTFReading reading(
       R"({{\fonttbl{\f0 Zero;}{\f2 Two;}{\f3 Three;}}\trowd\cellx1\cellx2\intbl\f2\tab\f3 a\cell\row})");
   ASSERT_EQ(reading.Outline(), L"[\ta]P[]T");
   EXPECT_STREQ(reading.Runs()[0].m_Context.Font->GetFontFaceName(), L"Two");
 }
 
-TEST_F(RTFTableTest, NotedFormattingLastsFromCellToCell) {
+TEST_F(RTFTableRowsTest, NotedFormattingLastsFromCellToCell) {
   const RTFReading reading(std::string("{") + kTwoCells + R"(\f5\b\tab a\cell\f6\b0 b\cell\row})");
   EXPECT_EQ(Chars(reading, 1).CellFontId, 5);
   EXPECT_EQ(Chars(reading, 1).Bold, 1);
 }
 
-TEST_F(RTFTableTest, NothingIsNotedOutsideOfTables) {
+TEST_F(RTFTableRowsTest, NothingIsNotedOutsideOfTables) {
   const RTFReading reading(R"({\f5\b\tab\trowd\cellx1\intbl a\cell\row})");
   EXPECT_EQ(Chars(reading, 0).CellFontId, 0);
   EXPECT_EQ(Chars(reading, 0).Bold, 0);
 }
 
-TEST_F(RTFTableTest, CellFontIsFilledInTablesAlone) {
+TEST_F(RTFTableRowsTest, CellFontIsFilledInTablesAlone) {
   const RTFReading reading(R"({\trowd\cellx1\intbl\f5\tab\cell\row\pard\f6 b})");
   ASSERT_EQ(reading.Outline(), L"[\t]P[]T[b]");
   EXPECT_EQ(Chars(reading, 0).CellFontId, 5);
   EXPECT_EQ(Chars(reading, 2).CellFontId, 0);
 }
 
-TEST_F(RTFTableTest, ParagraphBehindTheRowNotesNothing) {
+TEST_F(RTFTableRowsTest, ParagraphBehindTheRowNotesNothing) {
   const RTFReading reading(R"({\trowd\cellx1\intbl a\cell\row\b\par\intbl b\cell})");
   ASSERT_EQ(reading.Outline(), L"[a]P[\nb]P[]T");
   EXPECT_EQ(Chars(reading, 1).Bold, 0);

@@ -32,14 +32,14 @@ std::tuple<int, int, int> Parts(const RTFReading& reading, int id) {
 using RGB = std::tuple<int, int, int>;
 const RGB kNone = {-1, -1, -1};
 
-TEST(RTFTables, KnowsNothingAtTheStart) {
+TEST(RTFDestinationTables, KnowsNothingAtTheStart) {
   const RTFReading reading("");
   EXPECT_EQ(reading.Parser().GetFontAtID(0), nullptr);
   EXPECT_EQ(reading.Parser().GetColorAtID(0), nullptr);
   EXPECT_EQ(reading.Parser().GetStyleSheetAtID(0), nullptr);
 }
 
-TEST(RTFTables, ReadsFonts) {
+TEST(RTFDestinationTables, ReadsFonts) {
   const RTFReading reading(R"({\fonttbl{\f0 Arial;}{\f1 Courier}})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(FontName(reading, 0), L"Arial");
@@ -48,7 +48,7 @@ TEST(RTFTables, ReadsFonts) {
   EXPECT_EQ(Font(reading, -1), nullptr);
 }
 
-TEST(RTFTables, GivesAFontItsCharSet) {
+TEST(RTFDestinationTables, GivesAFontItsCharSet) {
   const RTFReading reading(R"({\fonttbl{\f3\fswiss\fprq2\fcharset204 Arial Cyr;}{\f2\fcharset2 Symbol;}})");
   ASSERT_NE(Font(reading, 3), nullptr);
   EXPECT_EQ(Font(reading, 3)->GetFontCharSet(), 204);
@@ -58,7 +58,7 @@ TEST(RTFTables, GivesAFontItsCharSet) {
   EXPECT_EQ(Font(reading, 2)->GetFontCharSet(), 2);
 }
 
-TEST(RTFTables, TheFirstFontOfANumberStays) {
+TEST(RTFDestinationTables, TheFirstFontOfANumberStays) {
   const RTFReading reading(
       R"({\fonttbl{\f0\fcharset1 First;}{\f0\fcharset2 Second;}{\f1 Third;}{\f0 Fourth;}})");
   EXPECT_EQ(FontName(reading, 0), L"First");
@@ -66,7 +66,7 @@ TEST(RTFTables, TheFirstFontOfANumberStays) {
   EXPECT_EQ(FontName(reading, 1), L"Third");
 }
 
-TEST(RTFTables, CutsOneSemicolonOffAFontName) {
+TEST(RTFDestinationTables, CutsOneSemicolonOffAFontName) {
   const RTFReading reading(R"({\fonttbl{\f0 a;;}{\f1 b;c}{\f2 ;}{\f3}})");
   EXPECT_EQ(FontName(reading, 0), L"a;");
   EXPECT_EQ(FontName(reading, 1), L"b;c");
@@ -74,12 +74,12 @@ TEST(RTFTables, CutsOneSemicolonOffAFontName) {
   EXPECT_EQ(FontName(reading, 3), L"");
 }
 
-TEST(RTFTables, SkipsUnknownGroupsInsideAFont) {
+TEST(RTFDestinationTables, SkipsUnknownGroupsInsideAFont) {
   const RTFReading reading(R"({\fonttbl{\f0\froman{\*\panose 020206}Times{\*\falt Tms};}})");
   EXPECT_EQ(FontName(reading, 0), L"Times");
 }
 
-TEST(RTFTables, FontPropertiesEndWithTheirEntry) {
+TEST(RTFDestinationTables, FontPropertiesEndWithTheirEntry) {
   const RTFReading reading(R"({\rtf1{\fonttbl{\f5\fcharset2 X;}{Y;}}a})");
   EXPECT_EQ(FontName(reading, 5), L"X");
   EXPECT_EQ(FontName(reading, 0), L"Y");
@@ -89,14 +89,14 @@ TEST(RTFTables, FontPropertiesEndWithTheirEntry) {
 }
 
 // Real files also have font tables without a group per font: no entry comes of that.
-TEST(RTFTables, FixedAFontWithoutAGroupIsNone) {
+TEST(RTFDestinationTables, FixedAFontWithoutAGroupIsNone) {
   const RTFReading reading(R"({\fonttbl\f0\froman Times;})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(Font(reading, 0), nullptr);
 }
 
 // A second font table inside an entry: the outer group ends with the inner font as its current one.
-TEST(RTFTables, TakesNestedFontTables) {
+TEST(RTFDestinationTables, TakesNestedFontTables) {
   const RTFReading reading(R"({\fonttbl{\f1 a{\pict\fonttbl{\f2 b;}}\f3 c;}})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(Font(reading, 1), nullptr);
@@ -104,14 +104,14 @@ TEST(RTFTables, TakesNestedFontTables) {
   EXPECT_EQ(Font(reading, 2), Font(reading, 3));
 }
 
-TEST(RTFTables, TakesANestedFontThatComesTooLate) {
+TEST(RTFDestinationTables, TakesANestedFontThatComesTooLate) {
   const RTFReading reading(R"({\fonttbl{\f1 a;}{\f2 b{\pict\fonttbl{\f1 c;}}d;}})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(FontName(reading, 1), L"a");
   EXPECT_EQ(Font(reading, 2), nullptr);
 }
 
-TEST(RTFTables, ReadsStyles) {
+TEST(RTFDestinationTables, ReadsStyles) {
   const RTFReading reading(
       R"({\rtf1{\stylesheet{\s0 Normal;}{\s1\b\li720\cols2\f3 heading 1;}{\*\cs10\i Emphasis;}}})");
   EXPECT_EQ(reading.Result(), 0);
@@ -130,25 +130,25 @@ TEST(RTFTables, ReadsStyles) {
   EXPECT_EQ(reading.Parser().GetStyleSheetAtID(10), nullptr);
 }
 
-TEST(RTFTables, AStyleWithoutANumberIsZero) {
+TEST(RTFDestinationTables, AStyleWithoutANumberIsZero) {
   const RTFReading reading(R"({\stylesheet{Normal;}{\s0 Other;}})");
   EXPECT_STREQ(reading.Parser().GetStyleSheetAtID(0)->GetStyleSheetName(), L"Normal");
 }
 
-TEST(RTFTables, TheFirstStyleOfANumberStays) {
+TEST(RTFDestinationTables, TheFirstStyleOfANumberStays) {
   const RTFReading reading(R"({\stylesheet{\s4\b first;}{\s4\i second;}{\s5 third;}})");
   EXPECT_STREQ(reading.Parser().GetStyleSheetAtID(4)->GetStyleSheetName(), L"first");
   EXPECT_EQ(reading.Parser().GetStyleSheetAtID(4)->GetCharProps().Italic, 0);
   EXPECT_STREQ(reading.Parser().GetStyleSheetAtID(5)->GetStyleSheetName(), L"third");
 }
 
-TEST(RTFTables, AStyleOfItsOwnMovesToItsLastNumber) {
+TEST(RTFDestinationTables, AStyleOfItsOwnMovesToItsLastNumber) {
   const RTFReading reading(R"({\stylesheet{\s4\s6 a;}})");
   EXPECT_EQ(reading.Parser().GetStyleSheetAtID(4), nullptr);
   EXPECT_NE(reading.Parser().GetStyleSheetAtID(6), nullptr);
 }
 
-TEST(RTFTables, TakesNestedStyleSheets) {
+TEST(RTFDestinationTables, TakesNestedStyleSheets) {
   const RTFReading reading(R"({\stylesheet{\s1 a{\pict\stylesheet{\s2 b;}}\s3 c;}{\s9 d;}})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(reading.Parser().GetStyleSheetAtID(1), nullptr);
@@ -158,14 +158,14 @@ TEST(RTFTables, TakesNestedStyleSheets) {
 }
 
 // A reference to a missing style while another one is being read leaves that one without its current object.
-TEST(RTFTables, TakesALostStyle) {
+TEST(RTFDestinationTables, TakesALostStyle) {
   const RTFReading reading(R"({\stylesheet{\s1 a{\pict\s99}b;}{\s2 c;}})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(reading.Parser().GetStyleSheetAtID(1), nullptr);
   EXPECT_STREQ(reading.Parser().GetStyleSheetAtID(2)->GetStyleSheetName(), L"c");
 }
 
-TEST(RTFTables, ReadsColors) {
+TEST(RTFDestinationTables, ReadsColors) {
   const RTFReading reading(R"({\colortbl;\red255\green0\blue0;})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(Parts(reading, 0), RGB(0, 0, 0));
@@ -174,7 +174,7 @@ TEST(RTFTables, ReadsColors) {
   EXPECT_EQ(Parts(reading, -1), kNone);
 }
 
-TEST(RTFTables, NumbersColorsInTheirOrder) {
+TEST(RTFDestinationTables, NumbersColorsInTheirOrder) {
   const RTFReading reading(R"({\colortbl\red1\green2\blue3;\green4;\blue5 anything;\red6})");
   EXPECT_EQ(Parts(reading, 0), RGB(1, 2, 3));
   EXPECT_EQ(Parts(reading, 1), RGB(0, 4, 0));
@@ -183,46 +183,46 @@ TEST(RTFTables, NumbersColorsInTheirOrder) {
   EXPECT_EQ(reading.Outline(), L"");
 }
 
-TEST(RTFTables, ASecondColorTableGoesOnCounting) {
+TEST(RTFDestinationTables, ASecondColorTableGoesOnCounting) {
   const RTFReading reading(R"({\rtf1{\colortbl\red1;}{\colortbl\red2;}})");
   EXPECT_EQ(Parts(reading, 0), RGB(1, 0, 0));
   EXPECT_EQ(Parts(reading, 1), RGB(2, 0, 0));
 }
 
-TEST(RTFTables, KeepsTheLowByteOfAColorsPart) {
+TEST(RTFDestinationTables, KeepsTheLowByteOfAColorsPart) {
   EXPECT_EQ(Parts(RTFReading(R"({\colortbl\red256\green257\blue-3;})"), 0), RGB(0, 1, 3));
 }
 
-TEST(RTFTables, TakesAHexSemicolon) {
+TEST(RTFDestinationTables, TakesAHexSemicolon) {
   EXPECT_EQ(Parts(RTFReading(R"({\colortbl\red1\'3b\red2;})"), 1), RGB(2, 0, 0));
 }
 
-TEST(RTFTables, TakesNestedColorTables) {
+TEST(RTFDestinationTables, TakesNestedColorTables) {
   const RTFReading reading(R"({\colortbl\red1{\pict{\colortbl\red2;}};\red3;})");
   EXPECT_EQ(Parts(reading, 0), RGB(2, 0, 0));
   EXPECT_EQ(Parts(reading, 1), RGB(0, 0, 0));
   EXPECT_EQ(Parts(reading, 2), RGB(3, 0, 0));
 }
 
-TEST(RTFTables, GoesOnWithANewColorBehindANestedTable) {
+TEST(RTFDestinationTables, GoesOnWithANewColorBehindANestedTable) {
   const RTFReading reading(R"({\colortbl\red1{\pict{\colortbl\red2}}\green3;})");
   EXPECT_EQ(reading.Result(), 0);
   EXPECT_EQ(Parts(reading, 0), RGB(0, 3, 0));
   EXPECT_EQ(Parts(reading, 1), kNone);
 }
 
-TEST(RTFTables, ARawSemicolonEndsAColor) {
+TEST(RTFDestinationTables, ARawSemicolonEndsAColor) {
   const RTFReading reading(R"({\colortbl\red1\bin1 ;\red2;})");
   EXPECT_EQ(Parts(reading, 0), RGB(1, 0, 0));
   EXPECT_EQ(Parts(reading, 1), RGB(2, 0, 0));
 }
 
-TEST(RTFTables, ColorsClearTheNameBuffer) {
+TEST(RTFDestinationTables, ColorsClearTheNameBuffer) {
   const RTFReading reading(R"({\rtf1{\*\listtable{\list{\listlevel{\leveltext\u65?}}}}{\fonttbl{\f0 X;}}})");
   EXPECT_EQ(FontName(reading, 0), L"X");
 }
 
-TEST(RTFTables, ADocumentCutOffFreesWhatIsPending) {
+TEST(RTFDestinationTables, ADocumentCutOffFreesWhatIsPending) {
   for (const char* const cut : {R"({\fonttbl{\f0 Ari)", R"({\stylesheet{\s1 a)", R"({\colortbl\red1)",
                                 R"({\fonttbl{\fonttbl{\f0)", R"({\colortbl\colortbl\colortbl)"}) {
     EXPECT_EQ(RTFReading(cut).Result(), 3) << cut;
@@ -230,7 +230,7 @@ TEST(RTFTables, ADocumentCutOffFreesWhatIsPending) {
 }
 
 // As many fonts as numbers of 16 bits, and the same again: work grows with the number of entries alone.
-TEST(RTFTables, TakesFontTablesOfAnySize) {
+TEST(RTFDestinationTables, TakesFontTablesOfAnySize) {
   std::string text = "{\\rtf1{\\fonttbl";
   for (int round = 0; round < 2; ++round) {
     for (int id = 0; id < 32761; ++id) text += "{\\f" + std::to_string(id) + " X;}";
@@ -241,7 +241,7 @@ TEST(RTFTables, TakesFontTablesOfAnySize) {
   EXPECT_EQ(Font(reading, 32761), nullptr);
 }
 
-TEST(RTFTables, TakesStyleSheetsOfAnySize) {
+TEST(RTFDestinationTables, TakesStyleSheetsOfAnySize) {
   std::string text = "{\\rtf1{\\stylesheet";
   for (int id = 0; id < 20000; ++id) text += "{\\s" + std::to_string(id) + ";}{;}";
   const RTFReading reading(text + "}}");
