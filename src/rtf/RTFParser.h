@@ -226,11 +226,11 @@ class ZEB_EXPORT CRTFParser {
 
   /// A row of the keyword table.
   struct KeywordRow {
-    const char* Keyword;
-    int Default;      // value of a keyword without parameter
-    int PassDefault;  // not 0: the default counts even if there is a parameter
-    int Kind;         // a KeywordKind
-    int Index;        // character, IDEST, IPROP or IPFN, by kind
+    const char* Keyword;  // static text
+    int Default;          // value of a keyword without parameter
+    int PassDefault;      // not 0: the default counts even if there is a parameter
+    int Kind;             // a KeywordKind
+    int Index;            // character, IDEST, IPROP or IPFN, by kind
   };
 
   /// A row of the property table.
@@ -274,13 +274,23 @@ class ZEB_EXPORT CRTFParser {
   /// Does what a keyword asks for. An unknown keyword does nothing, or starts a skipped group.
   /// @param hasParam whether `param` was given
   int TranslateKeyword(char* keyword, int param, char hasParam);
+  /// Sets the destination, and makes the font, style, colour or level that it builds. Does nothing in a skipped
+  /// group, and where a destination belongs into another one and stands elsewhere.
   int ChangeDest(IDEST dest);
+  /// Stores the value as the property's row tells. A change of formatting closes the run in front of it, but not in
+  /// a table, where a cell is one run. Does nothing in a skipped group.
   int ApplyPropChange(IPROP prop, int value);
+  /// Does nothing in a skipped group, but for raw bytes, so that they are stepped over.
   int ParseSpecialKeyword(IPFN keyword);
+  /// Does what a property without a field of its own asks for.
+  /// @return rtfBadTable for a property that stores a value, and for one that may not stand here
   int ParseSpecialProperty(IPROP prop, int value);
   /// Whether a change of the property closes the run of text in front of it.
   bool PropCanChangeContext(IPROP prop);
+  /// An opening brace: saves the formatting.
   int PushRtfState();
+  /// A closing brace: hands on the run in front of it, finishes what the group was building and restores the
+  /// formatting.
   int PopRtfState();
   /// Finishes what a closing group was building.
   int EndGroupAction(RDS dest);
@@ -305,20 +315,20 @@ class ZEB_EXPORT CRTFParser {
   void ReadGB2312Mapping();
 
   unsigned char* m_pCur;  // observer
-  int m_Size;
+  int m_Size;             // bytes
   unsigned char* m_pEnd;  // observer
-  int m_cGroup;
+  int m_cGroup;           // open groups
   RDS m_rds;
-  int m_ris;
+  int m_ris;  // a RIS
   CCharacterProperties m_CharProps;
   CParagraphProperties m_ParProps;
   CSectionProperties m_SecProps;
   CDocumentProperties m_DocProps;
   CFontProperties m_FontProps;
-  CRTFState* m_pStack;  // owned, shared by copies
-  int m_cbBin;
-  int m_lParam;
-  bool m_bSkipDestIfUnknown;
+  CRTFState* m_pStack;          // owned, shared by copies
+  int m_cbBin;                  // raw bytes still to come
+  int m_lParam;                 // the last number of a keyword, without its sign
+  bool m_bSkipDestIfUnknown;    // a \* has just been read
   PropertyRow* m_pPropTable;    // owned, shared by copies
   KeywordRow* m_pKeywordTable;  // owned, shared by copies
   int m_KeywordCount;
@@ -328,13 +338,13 @@ class ZEB_EXPORT CRTFParser {
   CRTFStyleSheet* m_pCurStyle;                   // observer
   std::map<int, CRTFColor*> m_Colors;            // owned, shared by copies
   CRTFColor* m_pCurColor;                        // observer
-  std::wstring m_NameBuffer;
-  std::wstring m_TextBuffer;
+  std::wstring m_NameBuffer;                     // names of fonts and styles, texts of lists
+  std::wstring m_TextBuffer;                     // the current run
   std::wstring m_BookmarkBuffer;
   std::wstring m_PnBefore;
   std::wstring m_PnAfter;
   CContextChangedHandler* m_pContextHandler;  // observer
-  CIDMapping m_CMaps[4];
+  CIDMapping m_CMaps[4];  // GB 2312 to CIDs, these to Unicode; Big Five to CIDs, these to Unicode
   unsigned char m_HexHigh;
   unsigned char m_HexLow;
   CFontData* m_pPicture;  // owned, shared by copies
@@ -349,13 +359,14 @@ class ZEB_EXPORT CRTFParser {
   bool m_InShpPict;
   bool m_InNonShpPict;
   bool m_InRow;
+  // The formatting of the current cell: font id, half points, truth values.
   unsigned short m_CellFont;
   unsigned short m_CellFontSize;
   unsigned char m_CellBold;
   unsigned char m_CellItalic;
   unsigned char m_CellSuper;
   unsigned char m_CellSub;
-  int m_cSkip;
+  int m_cSkip;  // bytes still to skip behind a \u character
 
  private:
   // The loop and its keywords.
@@ -368,7 +379,6 @@ class ZEB_EXPORT CRTFParser {
   void ParsePlainBytes(unsigned char ch);
   void AppendPlainText(unsigned char ch);
   unsigned char ReadParameter(unsigned char ch, int& param);
-  void EnterFrom(RDS from, RDS to);
 
   // Properties.
   zeb::RTFField FieldOf(const PropertyRow& row);

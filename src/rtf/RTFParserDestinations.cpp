@@ -1,78 +1,70 @@
 #include "rtf/RTFParser.h"
 
-void CRTFParser::EnterFrom(RDS from, RDS to) {
-  if (m_rds == from) m_rds = to;
-}
+#include <array>
+#include <cstddef>
+
+namespace {
+
+using Parser = CRTFParser;
+
+constexpr int kFromAny = -1;
+
+/// The destination that a keyword leads to, and the only one that it leads away from.
+struct Change {
+  int m_iFrom;  // an RDS or kFromAny
+  Parser::RDS m_To;
+};
+
+// By IDEST.
+constexpr std::array<Change, 19> kChanges = {{
+    {kFromAny, Parser::rdsPicture},
+    {kFromAny, Parser::rdsSkip},
+    {kFromAny, Parser::rdsFontTable},
+    {Parser::rdsFontTable, Parser::rdsFontEntry},
+    {kFromAny, Parser::rdsStyleSheet},
+    {Parser::rdsStyleSheet, Parser::rdsStyleEntry},
+    {kFromAny, Parser::rdsColorTable},
+    {Parser::rdsNorm, Parser::rdsPn},
+    {Parser::rdsNorm, Parser::rdsBookmarkStart},
+    {Parser::rdsNorm, Parser::rdsBookmarkEnd},
+    {Parser::rdsNorm, Parser::rdsPnText},
+    {Parser::rdsNorm, Parser::rdsPnTextBefore},
+    {Parser::rdsNorm, Parser::rdsPnTextAfter},
+    {kFromAny, Parser::rdsListTable},
+    {kFromAny, Parser::rdsListLevel},
+    {Parser::rdsListLevel, Parser::rdsLevelText},
+    {Parser::rdsListLevel, Parser::rdsLevelNumbers},
+    {kFromAny, Parser::rdsListOverrideTable},
+    {Parser::rdsNorm, Parser::rdsListText},
+}};
+static_assert(kChanges.size() == Parser::idestListText + 1);
+
+}  // namespace
 
 int CRTFParser::ChangeDest(IDEST dest) {
   if (m_rds == rdsSkip) return rtfOK;
-  switch (dest) {
-    case idestPict:
-      m_rds = rdsPicture;
-      break;
-    case idestSkip:
-      m_rds = rdsSkip;
-      break;
-    case idestFontTable:
-      m_rds = rdsFontTable;
-      break;
-    case idestFontEntry:
-      if (m_rds != rdsFontTable) break;
-      m_rds = rdsFontEntry;
+  if (dest < 0 || static_cast<std::size_t>(dest) >= kChanges.size()) return rtfBadTable;
+  const Change& change = kChanges[static_cast<std::size_t>(dest)];
+  if (change.m_iFrom != kFromAny && change.m_iFrom != m_rds) return rtfOK;
+  m_rds = change.m_To;
+  switch (m_rds) {
+    case rdsFontEntry:
       BeginFontEntry();
       break;
-    case idestStyleSheet:
-      m_rds = rdsStyleSheet;
-      break;
-    case idestStyleEntry:
-      if (m_rds != rdsStyleSheet) break;
-      m_rds = rdsStyleEntry;
+    case rdsStyleEntry:
       BeginStyleEntry();
       break;
-    case idestColorTable:
-      m_rds = rdsColorTable;
+    case rdsColorTable:
       BeginColorTable();
       break;
-    case idestPn:
-      EnterFrom(rdsNorm, rdsPn);
+    case rdsPnText:
+      m_CharProps.PnText = 1;
       break;
-    case idestBookmarkStart:
-      EnterFrom(rdsNorm, rdsBookmarkStart);
-      break;
-    case idestBookmarkEnd:
-      EnterFrom(rdsNorm, rdsBookmarkEnd);
-      break;
-    case idestPnText:
-      if (m_rds == rdsNorm) m_CharProps.PnText = 1;
-      EnterFrom(rdsNorm, rdsPnText);
-      break;
-    case idestPnTextBefore:
-      EnterFrom(rdsNorm, rdsPnTextBefore);
-      break;
-    case idestPnTextAfter:
-      EnterFrom(rdsNorm, rdsPnTextAfter);
-      break;
-    case idestListTable:
-      m_rds = rdsListTable;
-      break;
-    case idestListLevel:
-      m_rds = rdsListLevel;
+    case rdsListLevel:
       BeginListLevel();
       break;
-    case idestLevelText:
-      EnterFrom(rdsListLevel, rdsLevelText);
-      break;
-    case idestLevelNumbers:
-      EnterFrom(rdsListLevel, rdsLevelNumbers);
-      break;
-    case idestListOverrideTable:
-      m_rds = rdsListOverrideTable;
-      break;
-    case idestListText:
-      EnterFrom(rdsNorm, rdsListText);
-      break;
     default:
-      return rtfBadTable;
+      break;
   }
   return rtfOK;
 }

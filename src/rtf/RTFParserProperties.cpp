@@ -29,6 +29,23 @@ void StoreByte(const zeb::RTFField& field, int value) {
   }
 }
 
+/// Keywords that are known so that they are no failure.
+bool IsIgnored(CRTFParser::IPROP prop) {
+  return prop == CRTFParser::ipropRowBorderHorizontal || prop == CRTFParser::ipropRowBorderVertical ||
+         prop == CRTFParser::ipropBorderSingle || prop == CRTFParser::ipropListName ||
+         prop == CRTFParser::ipropListOverrideFormat;
+}
+
+/// Whether a special property describes or fills rows and cells. Two among them only store a number.
+bool IsOfTables(CRTFParser::IPROP prop) {
+  return prop >= CRTFParser::ipropInTable && prop <= CRTFParser::ipropBorderWidth &&
+         prop != CRTFParser::ipropRowLeft && prop != CRTFParser::ipropRowHeader;
+}
+
+bool IsOfLists(CRTFParser::IPROP prop) {
+  return prop >= CRTFParser::ipropList && prop <= CRTFParser::ipropIlvl;
+}
+
 }  // namespace
 
 int CRTFParser::ApplyPropChange(IPROP prop, int value) {
@@ -100,54 +117,17 @@ int CRTFParser::ParseSpecialProperty(IPROP prop, int value) {
       return ParseColorProperty(prop, value);
     case ipropTabStop:
       return ParseTabStop(value);
-    case ipropInTable:
-    case ipropRowDefaults:
-    case ipropRowBorderTop:
-    case ipropRowBorderBottom:
-    case ipropRowBorderLeft:
-    case ipropRowBorderRight:
-    case ipropCellBorderTop:
-    case ipropCellBorderBottom:
-    case ipropCellBorderLeft:
-    case ipropCellBorderRight:
-    case ipropRow:
-    case ipropCell:
-    case ipropCellX:
-    case ipropCellAlignTop:
-    case ipropCellAlignCenter:
-    case ipropCellAlignBottom:
-    case ipropBorderWidth:
-      return ParseTableProperty(prop, value);
     case ipropShpPict:
     case ipropNonShpPict:
       return ParsePictureProperty(prop);
-    case ipropList:
-    case ipropListSimple:
-    case ipropListHybrid:
-    case ipropLevelNfc:
-    case ipropLevelNfcN:
-    case ipropLevelJc:
-    case ipropLevelNfcNAgain:
-    case ipropLevelFollow:
-    case ipropLevelStartAt:
-    case ipropLevelSpace:
-    case ipropLevelIndent:
-    case ipropListId:
-    case ipropListOverride:
-    case ipropListOverrideCount:
-    case ipropLs:
-    case ipropIlvl:
-      return ParseListProperty(prop, value);
-    case ipropRowBorderHorizontal:
-    case ipropRowBorderVertical:
-    case ipropBorderSingle:
-    case ipropListName:
-    case ipropListOverrideFormat:
-      return rtfOK;
     default:
-      // Fixed behaviour: \listoverridestartat ends the reading.
-      return rtfBadTable;
+      break;
   }
+  if (IsIgnored(prop)) return rtfOK;
+  if (IsOfTables(prop)) return ParseTableProperty(prop, value);
+  if (IsOfLists(prop)) return ParseListProperty(prop, value);
+  // Fixed behaviour: \listoverridestartat ends the reading.
+  return rtfBadTable;
 }
 
 int CRTFParser::EndSuperAndSubscript() {
