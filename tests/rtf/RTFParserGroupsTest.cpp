@@ -57,6 +57,24 @@ TEST(RTFParserGroups, PopWithoutGroupUnderflows) {
   EXPECT_EQ(probe.PopRtfState(), Parser::rtfStackUnderflow);
 }
 
+TEST(RTFParserGroups, RunEndsBeforeItsGroupIsFinished) {
+  /// Keeps runs and bookmarks in the order of their calls.
+  class Calls : public CContextChangedHandler {
+   public:
+    void OnContextChanged(const wchar_t* text, CRTFContext*) override {
+      m_strAll += L'[' + (text + std::wstring(L"]"));
+    }
+    void OnBookmark(std::wstring name, bool start) override { m_strAll += (start ? L'<' : L'>') + name; }
+    std::wstring m_strAll;
+  };
+  std::string data = "{a{\\*\\bkmkstart m}b{\\*\\bkmkend n}c}";
+  Calls calls;
+  Parser parser(reinterpret_cast<unsigned char*>(data.data()), static_cast<int>(data.size()), &calls,
+                nullptr);
+  EXPECT_EQ(parser.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(calls.m_strAll, L"[a]<m[b]>n[c]");
+}
+
 TEST(RTFParserGroups, FormattingEndsWithItsGroup) {
   RTFReading reading("{a{\\b\\i b}c}");
   ASSERT_EQ(reading.Outline(), L"[a][b][c]");
@@ -67,7 +85,7 @@ TEST(RTFParserGroups, FormattingEndsWithItsGroup) {
 }
 
 TEST(RTFParserGroups, FixedParagraphPropertiesOutliveTheGroupThatEncloses) {
-  // The inner group's end writes the indent of 720 into what the outer group saved.
+  // The inner group's end writes the indent of 5 into what the outer group saved.
   ParserProbe probe("{\\li5{\\b x}}\n");
   EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
   EXPECT_EQ(probe.m_ParProps.LeftIndent, 5);
@@ -147,6 +165,15 @@ TEST(RTFParserGroups, RowsAddedInAGroupEndWithIt) {
 TEST(RTFParserGroups, TableEndsWithTheGroupThatOpenedIt) {
   RTFReading reading("{{\\trowd\\cellx100\\intbl a\\cell\\row}b}");
   EXPECT_EQ(reading.Outline(), L"[a]P[]T[b]");
+}
+
+TEST(RTFParserGroups, FixedTextOfATableCutByItsGroupHasTheFormattingBehindIt) {
+  // The record of the table's end follows the restoring, and takes the text along.
+  RTFReading reading("{{\\intbl\\b\\ul x}y}");
+  ASSERT_EQ(reading.Outline(), L"[x]T[y]");
+  EXPECT_EQ(reading.Runs()[0].m_State.CharProps.Bold, 0);
+  EXPECT_EQ(reading.Runs()[0].m_State.CharProps.Underline, 0);
+  EXPECT_EQ(reading.Runs()[0].m_State.ParProps.InTable, 0);
 }
 
 TEST(RTFParserGroups, FreedTableIsGoneFromAllSavedStates) {

@@ -79,7 +79,7 @@ TEST(RTFParserProperties, NothingChangesInASkippedGroup) {
   EXPECT_TRUE(probe.m_FontProps == CFontProperties());
 }
 
-TEST(RTFParserProperties, TenPropertiesCloseARun) {
+TEST(RTFParserProperties, ElevenPropertiesCloseARun) {
   const std::set<int> closing = {0, 1, 2, 3, 4, 5, 30, 32, 38, 39, 40};
   ParserProbe probe;
   for (int prop = 0; prop < 106; ++prop) {
@@ -134,6 +134,19 @@ TEST(RTFParserProperties, NosupersubEndsARunIfOneIsOn) {
   EXPECT_EQ(both.Subscript, 0);
 }
 
+TEST(RTFParserProperties, EveryValueButZeroIsOn) {
+  EXPECT_EQ(RTFReading("{\\super5 a\\nosupersub b}").Outline(), L"[a][b]");
+  EXPECT_EQ(RTFReading("{\\sub255 a\\nosupersub b}").Outline(), L"[a][b]");
+  EXPECT_EQ(RTFReading("{\\super0 a\\nosupersub b}").Outline(), L"[ab]");
+  EXPECT_EQ(CharactersBehind("\\super5\\sub255\\nosupersub").Superscript, 0);
+  EXPECT_EQ(CharactersBehind("\\super5\\sub255\\nosupersub").Subscript, 0);
+}
+
+TEST(RTFParserProperties, FixedParameterOf256ClearsASwitch) {
+  // Only the low byte is stored, which is zero.
+  EXPECT_EQ(CharactersBehind("\\b\\b256").Bold, 0);
+}
+
 TEST(RTFParserProperties, LineEndsARunWithALineBreak) {
   EXPECT_EQ(RTFReading("{a\\line b\\line}").Outline(), L"[a]L[b]L");
 }
@@ -166,6 +179,20 @@ TEST(RTFParserProperties, IgnoredKeywordsChangeNothing) {
     RTFReading reading(std::string("{a\\") + keyword + "5 b}");
     EXPECT_EQ(reading.Result(), Parser::rtfOK) << keyword;
     EXPECT_EQ(reading.Outline(), L"[ab]") << keyword;
+  }
+}
+
+TEST(RTFParserProperties, PropertiesThatAreStoredAreNotSpecial) {
+  std::set<int> special = {5, 24, 27, 28, 35, 36, 37, 38, 45, 47, 48, 72, 73};
+  for (int prop = 51; prop <= 68; ++prop) special.insert(prop);
+  for (int prop = 74; prop <= 91; ++prop) special.insert(prop);
+  for (int prop = 0; prop < 106; ++prop) {
+    // The three parts of a colour are special, but in the colour table only; 92 is refused everywhere.
+    ParserProbe probe;
+    probe.m_rds = Parser::rdsListText;
+    EXPECT_EQ(probe.ParseSpecialProperty(static_cast<Parser::IPROP>(prop), 0),
+              special.count(prop) == 1 ? Parser::rtfOK : Parser::rtfBadTable)
+        << prop;
   }
 }
 

@@ -61,6 +61,42 @@ TEST(RTFParser, EnumerationsHaveTheirNumbers) {
   EXPECT_EQ(Parser::rtfEndOfData, 7);
 }
 
+TEST(RTFParser, InterfaceHasItsSignatures) {
+  static_assert(
+      std::is_constructible_v<Parser, unsigned char*, int, CContextChangedHandler*, CPictureConvertHandler*>);
+  static_assert(std::is_same_v<decltype(&Parser::RtfParse), int (Parser::*)()>);
+  static_assert(std::is_same_v<decltype(&Parser::GetFontAtID), CRTFFont* (Parser::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Parser::GetColorAtID), CRTFColor* (Parser::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Parser::GetStyleSheetAtID), CRTFStyleSheet* (Parser::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Parser::GetTextContent), std::wstring (Parser::*)() const>);
+}
+
+TEST(RTFParser, StartsWithNothing) {
+  const ParserProbe probe("ab");
+  EXPECT_EQ(probe.OffsetOfCursor(), 0);
+  EXPECT_EQ(probe.m_cGroup, 0);
+  EXPECT_EQ(probe.m_rds, Parser::rdsNorm);
+  EXPECT_EQ(probe.m_ris, Parser::risNorm);
+  EXPECT_EQ(probe.m_pStack, nullptr);
+  EXPECT_EQ(probe.m_cbBin, 0);
+  EXPECT_EQ(probe.m_lParam, 0);
+  EXPECT_FALSE(probe.m_bSkipDestIfUnknown);
+  EXPECT_TRUE(probe.m_Fonts.empty());
+  EXPECT_EQ(probe.m_pCurFont, nullptr);
+  EXPECT_TRUE(probe.m_StyleSheets.empty());
+  EXPECT_EQ(probe.m_pCurStyle, nullptr);
+  EXPECT_TRUE(probe.m_Colors.empty());
+  EXPECT_EQ(probe.m_pCurColor, nullptr);
+  EXPECT_EQ(probe.m_NameBuffer + probe.m_TextBuffer + probe.m_BookmarkBuffer, L"");
+  EXPECT_EQ(probe.m_PnBefore + probe.m_PnAfter, L"");
+  EXPECT_TRUE(probe.m_Lists.empty());
+  EXPECT_TRUE(probe.m_ListOverrides.empty());
+  EXPECT_EQ(probe.m_pCurList, nullptr);
+  EXPECT_EQ(probe.m_pCurLevel, nullptr);
+  EXPECT_FALSE(probe.m_InRow);
+  EXPECT_EQ(probe.m_cSkip, 0);
+}
+
 // Results.
 
 TEST(RTFParser, EmptyDataIsFine) {
@@ -114,12 +150,33 @@ TEST(RTFParser, FixedZeroByteIsTheEndOfTheData) {
   EXPECT_EQ(ResultOf(std::string("{a}\0{", 5)), Parser::rtfOK);
   EXPECT_EQ(ResultOf(std::string("{a\0}", 4)), Parser::rtfUnmatchedBrace);
   EXPECT_EQ(ResultOf(std::string("{\\\0}", 4)), Parser::rtfEndOfData);
+  EXPECT_EQ(ResultOf(std::string("{\\li-\0}", 7)), Parser::rtfEndOfData);
+  EXPECT_EQ(ResultOf(std::string("{\\bin3 a\0b}", 11)), Parser::rtfUnmatchedBrace);
+}
+
+TEST(RTFParser, KeywordInFrontOfAZeroByteLeavesNoText) {
+  // The zero byte is gone over as any other, so that going back ends in front of it.
+  EXPECT_EQ(Unreported(std::string("\\b\0x", 4)), L"");
+  EXPECT_EQ(Unreported(std::string("a\\'41\0x", 7)), L"aA");
 }
 
 TEST(RTFParser, StopsAtTheFirstFailure) {
   RTFReading reading("{a\\par b\\par\\'xx c\\par}");
   EXPECT_EQ(reading.Result(), Parser::rtfInvalidHex);
   EXPECT_EQ(reading.Outline(), L"[a]P[b]P");
+  EXPECT_EQ(reading.Parser().GetTextContent(), L"");
+}
+
+TEST(RTFParser, FailureLeavesTheTextThatIsNotYetReported) {
+  RTFReading reading("{a\\par b\\'xx c\\par}");
+  EXPECT_EQ(reading.Result(), Parser::rtfInvalidHex);
+  EXPECT_EQ(reading.Outline(), L"[a]P");
+  EXPECT_EQ(reading.Parser().GetTextContent(), L"b");
+}
+
+TEST(RTFParser, FixedHexDigitWaitsBehindItsGroup) {
+  // The first digit is kept when its group ends; the next hex byte needs one digit only.
+  EXPECT_EQ(TextOf("{{\\'4}\\'1x}"), L"Ax");
 }
 
 TEST(RTFParser, EveryBeginningOfADocumentEndsWithACode) {
@@ -316,6 +373,12 @@ TEST(RTFParser, StarCountsForTheNextKeywordOnly) {
   EXPECT_EQ(TextOf("{\\*text\\unknownkw lost}"), L"text");
 }
 
+TEST(RTFParser, FixedStarCountsAcrossBraces) {
+  EXPECT_EQ(TextOf("{\\*{\\unknownkw lost}text}"), L"text");
+  EXPECT_EQ(TextOf("{a{\\*}{\\unknownkw lost}b}"), L"ab");
+  EXPECT_EQ(TextOf("{\\*\\\nlost}"), L"");  // an escaped line end is an unknown keyword
+}
+
 TEST(RTFParser, FixedAllBlanksBehindAKeywordAreSwallowed) {
   EXPECT_EQ(TextOf("{\\b    text}"), L"text");
   EXPECT_EQ(TextOf("{\\b0    text}"), L"text");
@@ -338,6 +401,13 @@ TEST(RTFParser, MinusWithoutDigitsIsNoParameter) {
   EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
   EXPECT_EQ(probe.m_DocProps.PaperWidth, 12240);
   EXPECT_EQ(probe.m_TextBuffer, L"x");
+}
+
+TEST(RTFParser, SecondMinusIsText) {
+  ParserProbe probe("\\li--5 \n");
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(probe.m_ParProps.LeftIndent, 0);
+  EXPECT_EQ(probe.m_TextBuffer, L"-5 ");
 }
 
 TEST(RTFParser, ParameterSaturates) {

@@ -226,6 +226,13 @@ TEST(RTFPropertyTable, RowsThatCannotBeHandledEndTheReading) {
   EXPECT_EQ(kind.RtfParse(), Parser::rtfBadTable);
 }
 
+TEST(RTFPropertyTable, SpecialRowsNeedNoArea) {
+  ParserProbe probe("{a\\line b}");
+  probe.m_pPropTable[Parser::ipropLine].Area = 5;
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(probe.Handler().Outline(), L"[a]L[b]");
+}
+
 TEST(RTFPropertyTable, NumbersThatAreNoPropertyAreRefused) {
   ParserProbe probe;
   EXPECT_EQ(probe.ApplyPropChange(static_cast<Parser::IPROP>(-1), 1), Parser::rtfBadTable);
