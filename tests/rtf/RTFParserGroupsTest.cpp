@@ -57,8 +57,8 @@ TEST(RTFParserGroups, PopWithoutGroupUnderflows) {
   EXPECT_EQ(probe.PopRtfState(), Parser::rtfStackUnderflow);
 }
 
-TEST(RTFParserGroups, RunEndsBeforeItsGroupIsFinished) {
-  /// Keeps runs and bookmarks in the order of their calls.
+/// The runs and bookmarks of a document in the order of their calls: `[run]`, `<start`, `>end`.
+std::wstring CallsOf(std::string data) {
   class Calls : public CContextChangedHandler {
    public:
     void OnContextChanged(const wchar_t* text, CRTFContext*) override {
@@ -67,12 +67,19 @@ TEST(RTFParserGroups, RunEndsBeforeItsGroupIsFinished) {
     void OnBookmark(std::wstring name, bool start) override { m_strAll += (start ? L'<' : L'>') + name; }
     std::wstring m_strAll;
   };
-  std::string data = "{a{\\*\\bkmkstart m}b{\\*\\bkmkend n}c}";
   Calls calls;
   Parser parser(reinterpret_cast<unsigned char*>(data.data()), static_cast<int>(data.size()), &calls,
                 nullptr);
   EXPECT_EQ(parser.RtfParse(), Parser::rtfOK);
-  EXPECT_EQ(calls.m_strAll, L"[a]<m[b]>n[c]");
+  return calls.m_strAll;
+}
+
+TEST(RTFParserGroups, RunEndsBeforeItsGroupIsFinished) {
+  EXPECT_EQ(CallsOf("{a{\\*\\bkmkstart m}b{\\*\\bkmkend n}c}"), L"[a]<m[b]>n[c]");
+}
+
+TEST(RTFParserGroups, GroupInATableIsFinishedBeforeTheRunEnds) {
+  EXPECT_EQ(CallsOf("{\\intbl a{\\*\\bkmkstart m}b\\cell}"), L"<m[ab]");
 }
 
 TEST(RTFParserGroups, FormattingEndsWithItsGroup) {
