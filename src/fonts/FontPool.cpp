@@ -119,6 +119,7 @@ void CFontPool::SetFontData(const wchar_t* fontName, const wchar_t* familyName, 
 
 const wchar_t* CFontPool::FindUniqueName(const wchar_t* name) const {
   if (name == nullptr || *name == L'\0') return nullptr;
+  // Fixed behaviour: the mark alone is no empty name, so an empty localized name answers it.
   const std::wstring_view wanted = zeb::WithoutVerticalMark(name);
   for (const auto& [fontName, entry] : m_Entries) {
     if (HasLocalizedName(*entry, wanted)) return entry->GetFontName();

@@ -60,10 +60,12 @@ class ZEB_EXPORT CFonts {
   /// @param bold the weight, 400 normal
   CFontInformation* FindFont(const wchar_t* name, int bold, bool italic) const;
   /// The name by which files store a font: from the list, the font pool or the operating system. Points into the list.
-  /// @return null if the font is not known, and at the first question for a name that is a part of a localized one
+  /// @return null if the font is not known, and at the first question for a name that is only a part of a localized
+  /// one
   const wchar_t* GetUniqueFontName(const wchar_t* name, int bold, bool italic);
   /// The name by which users know a font: from the list or the font pool. Points into the list.
-  /// @return null at the first question for a name that has no other, the name itself from the second one on
+  /// @return the name itself for a built-in font; for another name that has no other, null at the first question and
+  /// the name itself from the second one on
   const wchar_t* GetLocalizedFontName(const wchar_t* name, int bold, bool italic);
 
   /// The names of a character collection, from the encodings of the handler; null if there are none.

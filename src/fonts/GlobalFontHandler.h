@@ -25,9 +25,9 @@ class ZEB_EXPORT CGlobalFontHandler {
   /// Stores the pointer and takes ownership; the earlier list is not freed.
   void SetEncodings(CEncodings* encodings);
 
-  /// The name by which a file stores the font; null if there is no other than `name`. See CFonts.
+  /// The name by which a file stores the font; when it is null, see CFonts.
   const wchar_t* GetUniqueFontName(const wchar_t* name, int bold, bool italic);
-  /// The name of the font in the language of the machine; null if there is no other than `name`. See CFonts.
+  /// The name by which users know the font; when it is null, see CFonts.
   const wchar_t* GetLocalizedFontName(const wchar_t* name, int bold, bool italic);
 
   /// Moves over the fonts and encodings of another handler that this one has not; the built-in fonts are left out.
