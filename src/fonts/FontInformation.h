@@ -68,7 +68,8 @@ class ZEB_EXPORT CFontInformation {
   ///
   /// Errors: "WrongParameter", "ReadFileFailure", "TrueTypeCreationFailed", "NoMoreMemoryLeft",
   /// "IncorrectTrueTypeFile", "BitmapMACFontUnsupported", "FontEmbeddingNotAllowed", "UnknownException".
-  /// @param faceName name of an installed font, at most 32 characters; null if the font comes from elsewhere
+  /// @param faceName name of an installed font, at most 32 characters; where data is reused, the full name of the
+  /// font in a collection; null if the font comes from elsewhere
   /// @param filePath path of a font file; null if the font comes from elsewhere
   /// @param encoding null, "1250", or anything else for WinAnsi
   /// @param unicode whether the font is used with two-byte glyph codes and embedded as a subset
@@ -84,7 +85,7 @@ class ZEB_EXPORT CFontInformation {
   /// The TrueType metrics, made if there are none, which become current; PostScript metrics are freed.
   CTrueTypeFontMetrics& UseTrueTypeMetrics();
   /// Calls ReadTT for the font that the current metrics tell of.
-  void ReadAgain(const wchar_t* faceName, bool reuseData);
+  void ReadAgain(bool reuseData);
   /// Gets the program of a TrueType font from the operating system and hands it to the pool.
   void LoadFromSystem();
 

@@ -248,11 +248,14 @@ bool CFontInformation::Load(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
   if (!hasProgram && !TakeFromPool(metrics) && metrics.GetFontType() == CFontMetrics::FontTypeTrueType) {
     LoadFromSystem();
   }
-  if (m_pMetrics->GetFontType() == CFontMetrics::FontTypeTrueType) ReadAgain(nullptr, true);
+  if (m_pMetrics->GetFontType() == CFontMetrics::FontTypeTrueType) ReadAgain(true);
   return true;
 }
 
-void CFontInformation::ReadAgain(const wchar_t* faceName, bool reuseData) {
+void CFontInformation::ReadAgain(bool reuseData) {
+  // The metrics that hold the name may be replaced while it is in use. It is needed for data that is there as well:
+  // in the bytes of a collection it finds the font.
+  const std::wstring name = m_pMetrics->GetBaseFont();
   const bool unicode = m_pMetrics->GetUnicodeFont();
   const int bold = m_pMetrics->GetBold();
   const bool italic = m_pMetrics->GetItalic();
@@ -262,14 +265,13 @@ void CFontInformation::ReadAgain(const wchar_t* faceName, bool reuseData) {
       m_pMetrics == m_pTrueTypeMetrics ? std::vector<CFontCharMetricsInfo*>() : CharactersOf(*m_pMetrics);
   CTrueTypeFontMetrics& metrics = UseTrueTypeMetrics();
   for (CFontCharMetricsInfo* info : characters) metrics.AddFontCharMetricsInfo(info);
-  ReadTT(faceName, nullptr, nullptr, unicode, reuseData, bold, italic);
+  ReadTT(name.c_str(), nullptr, nullptr, unicode, reuseData, bold, italic);
 }
 
 void CFontInformation::LoadFromSystem() {
-  // The metrics that hold the name may be replaced while it is in use.
   const std::wstring name = m_pMetrics->GetBaseFont();
   try {
-    ReadAgain(name.c_str(), false);
+    ReadAgain(false);
     GiveToPool(*m_pMetrics);
     TakeFromPool(*m_pMetrics);
   } catch (const CKXException&) {

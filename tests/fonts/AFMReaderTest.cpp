@@ -1,5 +1,4 @@
 #include "fonts/FontData.h"
-#include "fonts/PostscriptFontMetrics.h"
 #include "fonts/ReadFont.h"
 #include "support/ScopedLocale.h"
 
@@ -11,6 +10,7 @@
 
 namespace {
 
+using zebtest::Busy;
 using zebtest::ReadFont;
 
 /// A file with these lines in the global section, and these characters.
@@ -302,6 +302,13 @@ TEST(AFMReader, WithoutASpaceTheDefaultWidthIs250) {
   EXPECT_EQ(font->GetWidthAt(66), 250);
 }
 
+TEST(AFMReader, TheFirstSpaceGivesTheDefaultWidth) {
+  ReadFont font;
+  ASSERT_EQ(font.AFMText(Characters("C 5 ; WX 44 ; N space ;\nC 32 ; WX 55 ; N space ;\n", 2)), L"");
+  EXPECT_EQ(font->GetWidthAt(32), 44);
+  EXPECT_EQ(font->GetWidthAt(66), 44);
+}
+
 TEST(AFMReader, ACodeWithoutNameTakesTheDefaultThoughARecordHasNoName) {
   ReadFont font;
   font->SetCharNameAt(65, L"");
@@ -441,15 +448,6 @@ TEST(AFMReader, WithoutAPathTheParameterIsWrong) {
   EXPECT_EQ(zebtest::RaisedKey([&] { font.Font().ReadAFM(nullptr); }), L"WrongParameter");
   EXPECT_EQ(zebtest::RaisedKey([&] { font.Font().ReadAFM(L""); }), L"WrongParameter");
 }
-
-/// Sets the handle of metrics as a reader at work does.
-class Busy : public CPostscriptFontMetrics {
- public:
-  static void Set(CFontMetrics& metrics, int handle) {
-    int CFontMetrics::*const member = &Busy::m_iFileHandle;
-    metrics.*member = handle;
-  }
-};
 
 TEST(AFMReader, MetricsWithAnOpenFileAreRefused) {
   ReadFont font;

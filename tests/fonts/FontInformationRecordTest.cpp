@@ -6,9 +6,11 @@
 #include "fonts/TrueTypeFontMetrics.h"
 #include "foundation/XMLManager.h"
 #include "support/Files.h"
+#include "support/FontMachine.h"
 #include "support/RaisedKey.h"
 #include "support/RecordFixture.h"
 #include "support/ScopedFontPool.h"
+#include "support/TrueTypeBuilder.h"
 #include "support/WidePath.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +19,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -207,6 +210,15 @@ TEST(FontInformationRecord, AnyNumberButZeroIsFixedPitch) {
   EXPECT_FALSE(text->GetFixedPitch());
 }
 
+TEST(FontInformationRecord, AnyNumberButZeroIsItalic) {
+  for (const auto& [text, italic] :
+       {std::pair{"1", true}, {"2", true}, {"-1", true}, {"0", false}, {"true", false}}) {
+    ReadFont font;
+    LoadRecord(font.Font(), Record("<FontType>0</FontType>" + Element("Italic", text)));
+    EXPECT_EQ(font->GetItalic(), italic) << text;
+  }
+}
+
 TEST(FontInformationRecord, AMissingChildKeepsItsDefault) {
   ReadFont font;
   LoadRecord(font.Font(), Record("<FontType>0</FontType><Ascender>5</Ascender><LastChar>9</LastChar>"));
@@ -225,6 +237,22 @@ TEST(FontInformationRecord, FixedChildrenOutOfTheirOrderAreLost) {
   EXPECT_EQ(font->GetDescender(), -3);
   EXPECT_EQ(font->GetAscender(), 0);
   EXPECT_STREQ(font->GetFontFamilyName(), L"");
+}
+
+TEST(FontInformationRecord, FixedChildrenOfACharacterOutOfTheirOrderAreLost) {
+  ReadFont font;
+  LoadRecord(font.Font(),
+             Record("<FontType>0</FontType><CharMetricsInfo><WX>5</WX><Code>65</Code><Ligatures/>"
+                    "</CharMetricsInfo><CharMetricsInfo><Name>f</Name><Ligatures><Ligature>fi</Ligature>"
+                    "<Successor>i</Successor></Ligatures></CharMetricsInfo>"));
+  ASSERT_EQ(font->GetFontCharMetricsCount(), 2);
+  EXPECT_EQ(font.Record(0).GetWX(), 5);
+  EXPECT_EQ(font.Record(0).GetCode(), 0);
+  EXPECT_EQ(font.Record(0).GetLigatureCount(), 0);
+  EXPECT_STREQ(font.Record(1).GetName(), L"f");
+  ASSERT_EQ(font.Record(1).GetLigatureCount(), 1);
+  EXPECT_STREQ(font.Record(1).GetLigatureAt(0)->GetSuccessor(), L"");
+  EXPECT_STREQ(font.Record(1).GetLigatureAt(0)->GetLigature(), L"fi");
 }
 
 TEST(FontInformationRecord, EveryWidthIsRead) {
@@ -444,6 +472,44 @@ TEST(FontInformationRecord, FixedOfASubsetThePoolGetsTheSubset) {
   ASSERT_LT(font->GetFontData()->GetLength(), 4212);
   SaveRecord(font.Font());
   EXPECT_EQ(BytesOf(pool->GetFontData(L"LG Code 39")), BytesOf(font->GetFontData()));
+}
+
+/// A collection of "Probe Regular" and "Other Full", whose A is as wide as the em.
+std::vector<unsigned char> Collection() {
+  zebtest::TrueTypeBuilder other;
+  other.names = {{3, 1, 1033, 1, L"Other"}, {3, 1, 1033, 2, L"Regular"}, {3, 1, 1033, 4, L"Other Full"}};
+  other.glyphs[3].width = 2048;
+  return zebtest::TrueTypeBuilder::BuildCollection({zebtest::TrueTypeBuilder(), other});
+}
+
+TEST(FontInformationRecord, TheNameFindsTheFontInACollectionOfThePool) {
+  const ScopedFontPool pool;
+  const std::vector<unsigned char> bytes = Collection();
+  Store("Other Full", {bytes.begin(), bytes.end()});
+  ReadFont font;
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(font.Font(), Record(Scalars("2", "Other Full") + kTail)); }),
+            L"");
+  EXPECT_STREQ(font->GetBaseFont(), L"Other Full");
+  EXPECT_EQ(font->GetWidthAt('A'), 1000);
+  EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"Other Full"));
+  ReadFont none;
+  Store("Third", {bytes.begin(), bytes.end()});
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(none.Font(), Record(Scalars("2", "Third") + kTail)); }),
+            L"TrueTypeCreationFailed");
+}
+
+TEST(FontInformationRecord, AnInstalledCollectionLoadsWithAPoolAndWithout) {
+  const zebtest::FontMachine machine;
+  machine.Install("both.ttc", Collection());
+  const std::string record = Record(Scalars("2", "Other Full") + kTail);
+  ReadFont withoutPool;
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(withoutPool.Font(), record); }), L"");
+  EXPECT_EQ(withoutPool->GetWidthAt('A'), 1000);
+  const ScopedFontPool pool;
+  ReadFont font;
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(font.Font(), record); }), L"");
+  EXPECT_EQ(font->GetWidthAt('A'), 1000);
+  EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"Other Full"));
 }
 
 TEST(FontInformationRecord, AProgramThatIsNoTrueTypeFontHasItsOwnFailure) {

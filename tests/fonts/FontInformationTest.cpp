@@ -8,19 +8,27 @@
 #include "fonts/PDFCharCollName.h"
 #include "fonts/PostscriptFontMetrics.h"
 #include "fonts/ReadFont.h"
+#include "fonts/TrueTypeFont.h"
+#include "support/Files.h"
 #include "support/KeepForever.h"
+#include "support/RaisedKey.h"
+#include "support/TempDir.h"
+#include "support/WidePath.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstring>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
 namespace {
 
+namespace fs = std::filesystem;
 using zebtest::ReadFont;
+using zebtest::TrueTypeFont;
 
 TEST(FontInformation, BeginsWithPostScriptMetrics) {
   const CFontInformation font(nullptr);
@@ -68,6 +76,30 @@ TEST(FontInformation, MetricsAndProgramOfAPostScriptFontGoIntoOneObject) {
   EXPECT_EQ(font.Font().GetFontMetrics(), metrics);
   EXPECT_STREQ(metrics->GetBaseFont(), L"Sample");
   EXPECT_EQ(metrics->GetFontData()->GetLength1(), 2);
+}
+
+TEST(FontInformation, AReaderOfPostScriptFontsMakesItsMetricsAgain) {
+  const zebtest::TempDir folder;
+  const std::wstring afm = folder.WideFile("font.afm");
+  zebtest::WriteFile(folder.File("font.afm"), "StartCharMetrics 1\nC 65 ; WX 7 ; N A ;\n");
+  const fs::path data = fs::path(ZEB_TEST_DATA) / "fonts";
+  struct Case {
+    void (CFontInformation::*Read)(const wchar_t*);
+    std::wstring Path;
+  };
+  for (const Case& reader : {Case{&CFontInformation::ReadAFM, afm},
+                             {&CFontInformation::ReadPFM, zebtest::WidePath(data / "rsfs5.pfm")},
+                             {&CFontInformation::ReadPFBPFA, zebtest::WidePath(data / "dummy-space.pfb")}}) {
+    TrueTypeFont font{zebtest::TrueTypeBuilder()};
+    CFontInformation& information = font.Information();
+    const CFontMetrics* const trueType = information.GetFontMetrics();
+    EXPECT_EQ(zebtest::RaisedKey([&] { (information.*reader.Read)(folder.WideFile("none").c_str()); }),
+              L"ReadFileFailure");
+    EXPECT_EQ(information.GetFontMetrics(), trueType) << "they become current behind the reading";
+    EXPECT_EQ(zebtest::RaisedKey([&] { (information.*reader.Read)(reader.Path.c_str()); }), L"");
+    EXPECT_NE(dynamic_cast<CPostscriptFontMetrics*>(information.GetFontMetrics()), nullptr);
+    zebtest::FreeCharMetrics(*information.GetFontMetrics());
+  }
 }
 
 TEST(FontInformation, TheFaceMayBeNamedByTheMetricsThatItReplaces) {

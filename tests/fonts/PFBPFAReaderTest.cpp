@@ -91,6 +91,16 @@ TEST(PFBReader, EmptySegmentsCount) {
   EXPECT_EQ(Read(Segment(1, "") + Segment(2, "") + Segment(1, "end") + kEnd), (Program{"end", 0, 0, 3}));
 }
 
+TEST(PFBReader, AnEndInFrontOfAllSegmentsEndsIt) {
+  EXPECT_EQ(Read(kEnd + Segment(1, "text") + kEnd), (Program{}));
+}
+
+TEST(PFBReader, FixedPairsOfOtherTypesArePassedOverWithoutALength) {
+  const std::string other = "\x80\x05";
+  EXPECT_EQ(Read(other + "xy" + Segment(1, "text") + other + Segment(2, "binary") + kEnd),
+            (Program{"textbinary", 4, 6, 0}));
+}
+
 // Attack: no end.
 TEST(PFBReader, WithoutAnAlignedEndTheFileEndsIt) {
   EXPECT_EQ(Read(Segment(1, "text") + std::string(100001, 'x')), (Program{"text", 4, 0, 0}));
@@ -239,6 +249,14 @@ TEST(PFBPFAReader, Failures) {
   EXPECT_EQ(ProgramOf(font.Metrics()).Bytes, "text") << "the program stays";
   EXPECT_EQ(font.ProgramBytes("currentfile eexec\nx\n"), L"IncorrectPFAPFBFile");
   EXPECT_EQ(font.ProgramBytes(Segment(1, "again") + kEnd), L"");
+}
+
+TEST(PFBPFAReader, MetricsWithAnOpenFileAreRefused) {
+  ReadFont font;
+  zebtest::Busy::Set(font.Metrics(), 0);
+  EXPECT_EQ(font.ProgramBytes(Segment(1, "text") + kEnd), L"WrongParameter");
+  zebtest::Busy::Set(font.Metrics(), -1);
+  EXPECT_EQ(font.ProgramBytes(Segment(1, "text") + kEnd), L"");
 }
 
 /// The segments of a well-formed PFB file, walked through by their headers.

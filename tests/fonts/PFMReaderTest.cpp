@@ -269,6 +269,14 @@ TEST(PFMReader, ARefusedFileLeavesTheObjectReadyForAnother) {
   EXPECT_EQ(font.PFMBytes(PFM().Bytes()), L"");
 }
 
+TEST(PFMReader, MetricsWithAnOpenFileAreRefused) {
+  ReadFont font;
+  zebtest::Busy::Set(font.Metrics(), 0);
+  EXPECT_EQ(font.PFMBytes(PFM().Bytes()), L"WrongParameter");
+  zebtest::Busy::Set(font.Metrics(), -1);
+  EXPECT_EQ(font.PFMBytes(PFM().Bytes()), L"");
+}
+
 // The numbers below were taken from the files with a second reader.
 
 TEST(PFMReader, AScriptFace) {

@@ -18,6 +18,15 @@ inline void FreeCharMetrics(const CFontMetrics& metrics) {
   for (int i = 0; i < metrics.GetFontCharMetricsCount(); ++i) delete metrics.GetFontCharMetricsAt(i);
 }
 
+/// Sets the file handle of metrics as a reader at work does.
+class Busy : public CFontMetrics {
+ public:
+  static void Set(CFontMetrics& metrics, int handle) {
+    int CFontMetrics::*const member = &Busy::m_iFileHandle;
+    metrics.*member = handle;
+  }
+};
+
 /// A font of a test that is read from files, with everything freed at its end.
 class ReadFont {
  public:
