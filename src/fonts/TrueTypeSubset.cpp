@@ -83,6 +83,7 @@ void CFontMetrics::CreateSubsetFont() {
   if (m_FontType != FontTypeTrueType || file == nullptr || m_pFontData == nullptr) return;
   delete m_pSubsetData;
   m_pSubsetData = nullptr;
+  m_pFontData->ResetFontPos();
   m_CompositePatches.clear();
   CTrueTypeDirEnt* glyf = file->FindDirEnt("glyf");
   CTrueTypeTabHMtx* hmtx = file->GetTabHMtx();
@@ -109,13 +110,15 @@ void CFontMetrics::CreateSubsetFont() {
 
 void CFontMetrics::ScanGlyphs(CFontData* source, CTrueTypeDirEnt* glyfEntry, CTrueTypeTabHMtx* hmtx) {
   std::set<unsigned short> composites;
-  // A chain of components that was walked once has nothing new to tell, however many glyphs lead into it.
+  // A chain of components that was walked once has nothing new to tell, however many glyphs lead into it. Nor has a
+  // glyph of an earlier level: what it is made of is in the subset.
   std::set<int> walked;
-  std::map<unsigned short, unsigned short> pending;
+  std::vector<unsigned short> level;
+  for (const auto& [glyph, newIndex] : m_GlyphToNewIndex) level.push_back(glyph);
   int number = static_cast<int>(m_GlyphToNewIndex.size());
-  do {
-    pending.clear();
-    for (const auto& [glyph, newIndex] : m_GlyphToNewIndex) {
+  while (!level.empty()) {
+    std::map<unsigned short, unsigned short> pending;
+    for (const unsigned short glyph : level) {
       const long long place = PlaceOf(glyph, *glyfEntry, *hmtx);
       if (!IsComposite(*source, place)) continue;
       composites.insert(glyph);
@@ -127,7 +130,9 @@ void CFontMetrics::ScanGlyphs(CFontData* source, CTrueTypeDirEnt* glyfEntry, CTr
       }
     }
     m_GlyphToNewIndex.insert(pending.begin(), pending.end());
-  } while (!pending.empty());
+    level.clear();
+    for (const auto& [glyph, newIndex] : pending) level.push_back(glyph);
+  }
 
   for (const unsigned short glyph : composites) RemapComposite(source, glyfEntry, hmtx, glyph);
 }
