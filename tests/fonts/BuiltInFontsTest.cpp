@@ -6,6 +6,7 @@
 #include "fonts/FontData.h"
 #include "fonts/FontInformation.h"
 #include "fonts/Fonts.h"
+#include "fonts/PostscriptFontMetrics.h"
 
 #include <gtest/gtest.h>
 
@@ -117,6 +118,7 @@ TEST_P(StandardFont, HasItsEncoding) {
 }
 
 TEST_P(StandardFont, HasTheDefaultsInAllElse) {
+  EXPECT_NE(dynamic_cast<const CPostscriptFontMetrics*>(&m_metrics), nullptr);
   EXPECT_EQ(m_metrics.GetItalicAngle(), 0);
   EXPECT_FALSE(m_metrics.GetFixedPitch());
   EXPECT_EQ(m_metrics.GetStemVW(), 0);

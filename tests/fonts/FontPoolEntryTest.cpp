@@ -6,8 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <type_traits>
 
 namespace {
+
+static_assert(std::has_virtual_destructor_v<CFontPoolEntry>);
 
 TEST(FontPoolEntry, HasItsDefaults) {
   const CFontPoolEntry entry;
@@ -56,15 +59,23 @@ TEST(FontPoolEntry, ReplacingTheProgramFreesNothing) {
 TEST(FontPoolEntry, FixedACopySharesTheProgram) {
   CFontPoolEntry source;
   source.SetFontData(new CFontData(false));
-  source.SetFontName(L"Sample");
+  source.SetFontName(L"Sample Bold");
+  source.SetFontFamilyName(L"Sample");
+  source.SetBold(700);
+  source.SetItalic(true);
   source.AddLocalizedFontName(L"Muster");
   const CFontPoolEntry& copy = zebtest::KeepForever(new CFontPoolEntry(source));
   CFontPoolEntry& assigned = zebtest::KeepForever(new CFontPoolEntry);
   assigned = source;
-  EXPECT_EQ(copy.GetFontData(), source.GetFontData());
-  EXPECT_EQ(assigned.GetFontData(), source.GetFontData());
-  EXPECT_STREQ(assigned.GetFontName(), L"Sample");
-  EXPECT_STREQ(copy.GetLocalizedFontNameAt(0), L"Muster");
+  for (const CFontPoolEntry* const other : {&copy, static_cast<const CFontPoolEntry*>(&assigned)}) {
+    EXPECT_EQ(other->GetFontData(), source.GetFontData());
+    EXPECT_STREQ(other->GetFontName(), L"Sample Bold");
+    EXPECT_STREQ(other->GetFontFamilyName(), L"Sample");
+    EXPECT_EQ(other->GetBold(), 700);
+    EXPECT_TRUE(other->GetItalic());
+    ASSERT_EQ(other->GetLocalizedFontNameCount(), 1);
+    EXPECT_STREQ(other->GetLocalizedFontNameAt(0), L"Muster");
+  }
 }
 
 }  // namespace

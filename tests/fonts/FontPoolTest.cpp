@@ -15,6 +15,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -25,6 +26,8 @@ using zebtest::ReadFile;
 using zebtest::TempDir;
 using zebtest::WriteFile;
 using zebxmln::CXMLException;
+
+static_assert(std::has_virtual_destructor_v<CFontPool>);
 
 /// A pool beside that of the process.
 class Pool : public CFontPool {
@@ -171,6 +174,15 @@ TEST(FontPool, AnotherPoolReadsWhatOneWrote) {
   EXPECT_STREQ(pool.FindUniqueName(L"Yu Mincho"), L"\x6E38\x660E\x671D");
 }
 
+TEST(FontPool, ReadsAllLocalizedNamesOfAFile) {
+  const TempDir folder;
+  Pool(folder).Store(L"Sample", "abc", {L"Eins", L"", L"Drei"});
+  Pool pool(folder);
+  EXPECT_EQ(BytesOf(pool.GetFontData(L"Sample")), "abc");
+  EXPECT_STREQ(pool.FindUniqueName(L"Eins"), L"Sample");
+  EXPECT_STREQ(pool.FindUniqueName(L"Drei"), L"Sample");
+}
+
 TEST(FontPool, ReadsAFileOnceAndKeepsIt) {
   const TempDir folder;
   WriteFile(folder.File("Sample.fd"), SampleFile());
@@ -276,6 +288,15 @@ TEST(FontPool, TheMarkOfAVerticalFontDoesNotCount) {
   pool.Store(L"A", "a", {L"Eins"});
   EXPECT_STREQ(pool.FindUniqueName(L"@Eins"), L"A");
   EXPECT_EQ(pool.FindUniqueName(L"@@Eins"), nullptr);
+}
+
+TEST(FontPool, FixedTheMarkAloneStandsForAnEmptyLocalizedName) {
+  const TempDir folder;
+  Pool pool(folder);
+  pool.Store(L"A", "a", {L"Eins"});
+  EXPECT_EQ(pool.FindUniqueName(L"@"), nullptr);
+  pool.Store(L"B", "b", {L""});
+  EXPECT_STREQ(pool.FindUniqueName(L"@"), L"B");
 }
 
 TEST(FontPool, FixedTheUniqueNameItselfIsNotCompared) {
@@ -500,7 +521,9 @@ TEST(FontPool, WritesAnEntryWithoutProgram) {
 
 TEST(FontPool, FixedACopySharesTheEntries) {
   const TempDir folder;
+  WriteFile(folder.File("Old.fd"), FileText("<VersionNr>7</VersionNr><FontName>Old</FontName>"));
   Pool source(folder);
+  source.GetFontData(L"Old");
   source.Store(L"Sample", "abc");
   Pool& copy = zebtest::KeepForever(new Pool(source));
   Pool& assigned = zebtest::KeepForever(new Pool);
@@ -508,6 +531,11 @@ TEST(FontPool, FixedACopySharesTheEntries) {
   EXPECT_STREQ(copy.GetFontPoolPath(), source.GetFontPoolPath());
   EXPECT_EQ(copy.GetFontData(L"Sample"), source.GetFontData(L"Sample"));
   EXPECT_EQ(assigned.GetFontData(L"Sample"), source.GetFontData(L"Sample"));
+  copy.Store(L"Copied", "abc");
+  assigned.Store(L"Assigned", "abc");
+  for (const char* file : {"Copied.fd", "Assigned.fd"}) {
+    EXPECT_NE(ReadFile(folder.File(file)).find("<VersionNr>7</VersionNr>"), std::string::npos) << file;
+  }
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include <cwchar>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -50,6 +51,8 @@ void Pool(const wchar_t* name, const std::vector<std::wstring>& localizedNames) 
   unsigned char byte = 0;
   CFontPool::GetInstance().SetFontData(name, L"", kNormal, false, &byte, 1, localizedNames);
 }
+
+static_assert(std::has_virtual_destructor_v<CFonts>);
 
 class Fonts : public testing::Test {
  protected:
@@ -126,6 +129,27 @@ TEST_F(Fonts, FixedACopySharesTheFonts) {
   }
 }
 
+TEST_F(Fonts, FixedACopyTakesTheAnswersAndTheOwner) {
+  CGlobalFontHandler handler;
+  CFonts& fonts = *handler.GetFonts();
+  ASSERT_EQ(fonts.GetLocalizedFontName(L"Unknown", kNormal, false), nullptr);
+  ASSERT_STREQ(fonts.GetUniqueFontName(L"helvetica", kNormal, false), L"helvetica");
+  CFonts& copy = zebtest::KeepForever(new CFonts(fonts));
+  CFonts& assigned = zebtest::KeepForever(new CFonts(nullptr));
+  assigned = fonts;
+  for (CFonts* const other : {&copy, &assigned}) {
+    EXPECT_STREQ(other->GetLocalizedFontName(L"Unknown", kNormal, false), L"Unknown");
+    other->RemoveFontAt(4);
+    EXPECT_STREQ(other->GetUniqueFontName(L"helvetica", kNormal, false), L"helvetica");
+    EXPECT_EQ(other->GetEncodingInformation(L"winansi1252"),
+              handler.GetEncodings()->FindEncoding(L"winansi1252"));
+    other->AddBase14FontInformations();
+    other->AddCJKFontInformations();
+    EXPECT_EQ(other->GetFontCount(), 24);
+  }
+  EXPECT_EQ(fonts.GetFontCount(), 25);
+}
+
 TEST_F(Fonts, ForwardToTheEncodingsOfTheHandler) {
   CGlobalFontHandler handler;
   const CFonts& fonts = *handler.GetFonts();
@@ -162,6 +186,13 @@ TEST_F(Fonts, TheMarkOfAVerticalFontDoesNotCount) {
   Add(m_fonts, {L"Sample", L"Samples", kNormal, false, {L"Muster"}});
   EXPECT_EQ(NameOf(Find(L"@samples")), L"Sample");
   EXPECT_EQ(NameOf(Find(L"@Muster")), L"Sample");
+}
+
+TEST_F(Fonts, FixedASecondMarkCountsButInLocalizedNames) {
+  Add(m_fonts, {L"Sample", L"Samples", kNormal, false, {L"Muster"}});
+  EXPECT_EQ(Find(L"@@Sample"), nullptr);
+  EXPECT_EQ(Find(L"@@Samples"), nullptr);
+  EXPECT_EQ(NameOf(Find(L"@@Muster")), L"Sample");
 }
 
 TEST_F(Fonts, AFamilyIsFoundInItsStyle) {
@@ -335,6 +366,12 @@ TEST_F(Fonts, APartOfALocalizedNameIsNotSoughtElsewhere) {
   EXPECT_EQ(Unique(L"Sample"), nullptr);
 }
 
+TEST_F(Fonts, APartInAnotherCaseIsSoughtInThePool) {
+  Add(m_fonts, {L"Sample", L"", kNormal, false, {L"SAMPLE TEXT"}});
+  Pool(L"Other", {L"Sample"});
+  EXPECT_STREQ(Unique(L"Sample"), L"Other");
+}
+
 TEST_F(Fonts, AnEqualNameBehindOneThatContainsItGivesTheUniqueOne) {
   Add(m_fonts, {L"Sample", L"", kNormal, false, {L"Muster Text", L"Muster"}});
   EXPECT_STREQ(Unique(L"Muster"), L"Sample");
@@ -369,6 +406,7 @@ TEST_F(Fonts, WhatIsUnknownMayBecomeKnown) {
 TEST_F(Fonts, AnInstalledFontGivesItsFullName) {
   EXPECT_STREQ(Unique(L"dejavu sans mono"), L"DejaVu Sans Mono");
   EXPECT_STREQ(m_fonts.GetUniqueFontName(L"DejaVu Sans", kBoldWeight, false), L"DejaVu Sans Bold");
+  EXPECT_STREQ(m_fonts.GetUniqueFontName(L"@dejavu sans", kNormal, true), L"DejaVu Sans Oblique");
   EXPECT_STREQ(Unique(L"IPA\x30B4\x30B7\x30C3\x30AF"), L"IPAGothic");
 }
 

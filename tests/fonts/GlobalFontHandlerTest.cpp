@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -49,6 +50,8 @@ Names EncodingsOf(const CGlobalFontHandler& handler) {
   return names;
 }
 
+static_assert(std::has_virtual_destructor_v<CGlobalFontHandler>);
+
 TEST(GlobalFontHandler, MakesItsFontsAndEncodings) {
   const CGlobalFontHandler handler;
   EXPECT_NE(handler.GetFonts(), nullptr);
@@ -72,6 +75,16 @@ TEST(GlobalFontHandler, FixedACopySharesFontsAndEncodings) {
   const CGlobalFontHandler& copy = zebtest::KeepForever(new CGlobalFontHandler(source));
   EXPECT_EQ(copy.GetFonts(), source.GetFonts());
   EXPECT_EQ(copy.GetEncodings(), source.GetEncodings());
+}
+
+TEST(GlobalFontHandler, FixedAnAssignedHandlerSharesFontsAndEncodingsAndFreesNothing) {
+  const CGlobalFontHandler source;
+  CGlobalFontHandler& target = zebtest::KeepForever(new CGlobalFontHandler);
+  const std::unique_ptr<CFonts> fonts(target.GetFonts());
+  const std::unique_ptr<CEncodings> encodings(target.GetEncodings());
+  target = source;
+  EXPECT_EQ(target.GetFonts(), source.GetFonts());
+  EXPECT_EQ(target.GetEncodings(), source.GetEncodings());
 }
 
 TEST(GlobalFontHandler, ForwardsFontNames) {
@@ -99,6 +112,7 @@ TEST(GlobalFontHandler, MergingLeavesTheBuiltInFonts) {
   handler.GetFonts()->RemoveFontAt(14);
   handler.GetFonts()->RemoveFontAt(4);
   other.GetFonts()->GetFontAt(4);
+  other.GetFonts()->GetFontAt(14);
   handler.AddAnotherFontHandler(&other);
   EXPECT_EQ(handler.GetFonts()->GetFontCount(), 23);
   EXPECT_EQ(other.GetFonts()->GetFontCount(), 25);
@@ -122,6 +136,15 @@ TEST(GlobalFontHandler, MergingLooksForTheStyleOfAFamily) {
   handler.AddAnotherFontHandler(&other);
   EXPECT_EQ(FontsOf(handler), (Names{L"Sample", L"Sample"}));
   EXPECT_EQ(FontsOf(other), Names{});
+}
+
+TEST(GlobalFontHandler, MergingLooksForTheSlantOfAFamily) {
+  CGlobalFontHandler handler;
+  CGlobalFontHandler other;
+  AddFont(handler, L"Sample", L"Sample");
+  AddFont(other, L"Sample", L"Sample")->GetFontMetrics()->SetItalic(true);
+  handler.AddAnotherFontHandler(&other);
+  EXPECT_EQ(FontsOf(handler), (Names{L"Sample", L"Sample"}));
 }
 
 TEST(GlobalFontHandler, FixedMergingPassesOverWhatFollowsAMovedFont) {

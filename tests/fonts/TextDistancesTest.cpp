@@ -8,6 +8,7 @@
 #include "fonts/TrueTypeTables.h"
 #include "model/Border.h"
 #include "model/Text.h"
+#include "support/RaisedKey.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +22,11 @@ class TextDistances : public testing::TestWithParam<Operation> {
   void SetFont(const wchar_t* name, float size) {
     m_text.SetFontName(name);
     m_text.SetFontSize(size);
+  }
+  CFontInformation& AddFont() {
+    auto* const font = new CFontInformation(m_handler.GetFonts());
+    m_handler.GetFonts()->AddFont(font);
+    return *font;
   }
   void Calculate() { (m_handler.*GetParam())(&m_text); }
   void Expect(float upper, float lower, float spacing) const {
@@ -47,14 +53,52 @@ TEST_P(TextDistances, AreThoseOfTheBoxOfACJKFont) {
 }
 
 TEST_P(TextDistances, ABoxAboveTheBaseLineCountsByItsAbsoluteValue) {
-  auto* const font = new CFontInformation(m_handler.GetFonts());
-  m_handler.GetFonts()->AddFont(font);
-  font->GetFontMetrics()->SetBaseFont(L"Sample");
-  font->GetFontMetrics()->SetBBoxLLY(50);
-  font->GetFontMetrics()->SetBBoxURY(700.5F);
+  CFontMetrics& metrics = *AddFont().GetFontMetrics();
+  metrics.SetBaseFont(L"Sample");
+  metrics.SetBBoxLLY(50);
+  metrics.SetBBoxURY(700.5F);
   SetFont(L"Sample", 100);
   Calculate();
   Expect(70.05F, 5.0F, 75.05F);
+}
+
+TEST_P(TextDistances, AreThoseOfTheStyleOfTheText) {
+  /// A face of the family and the upper edge of its box.
+  struct Face {
+    int Bold;
+    bool Italic;
+    float Top;
+  };
+  for (const auto& [bold, italic, top] :
+       {Face{400, false, 500}, Face{700, false, 600}, Face{400, true, 700}, Face{700, true, 800}}) {
+    CFontMetrics& metrics = *AddFont().GetFontMetrics();
+    metrics.SetFontFamilyName(L"Sample");
+    metrics.SetBold(bold);
+    metrics.SetItalic(italic);
+    metrics.SetBBoxLLY(-200);
+    metrics.SetBBoxURY(top);
+  }
+  SetFont(L"Sample", 10);
+  m_text.SetBold(700);
+  m_text.SetItalic(true);
+  Calculate();
+  Expect(8.0F, 2.0F, 10.0F);
+}
+
+TEST_P(TextDistances, OfATrueTypeFontThatWasRefusedAreThoseOfTheBox) {
+  CFontInformation& font = AddFont();
+  ASSERT_EQ(zebtest::RaisedKey(
+                [&] { font.ReadTT(nullptr, L"/nowhere/font.ttf", nullptr, true, false, 400, false); }),
+            L"ReadFileFailure");
+  auto* const metrics = dynamic_cast<CTrueTypeFontMetrics*>(font.GetFontMetrics());
+  ASSERT_NE(metrics, nullptr);
+  ASSERT_EQ(metrics->GetTTFile(), nullptr);
+  metrics->SetBaseFont(L"Sample");
+  metrics->SetBBoxLLY(-111);
+  metrics->SetBBoxURY(222);
+  SetFont(L"Sample", 100);
+  Calculate();
+  Expect(22.2F, 11.1F, 33.3F);
 }
 
 TEST_P(TextDistances, ATextOfAnUnknownFontStaysAsItIs) {
@@ -181,6 +225,11 @@ TEST(TextDistancesByTables, OfAnInstalledFontAreInTheUnitOfTheFontSize) {
   EXPECT_FLOAT_EQ(text.GetBorder()->GetBaseLineToUpperDistance(), 9.28F);
   EXPECT_FLOAT_EQ(text.GetBorder()->GetBaseLineToLowerDistance(), 2.36F);
   EXPECT_FLOAT_EQ(text.GetLineSpacing(), 11.64F);
+  // The box reaches from -948 to 2524.
+  handler.CalculateOptimalTextDistancesForTables(&text);
+  EXPECT_FLOAT_EQ(text.GetBorder()->GetBaseLineToUpperDistance(), 12.32F);
+  EXPECT_FLOAT_EQ(text.GetBorder()->GetBaseLineToLowerDistance(), 4.63F);
+  EXPECT_FLOAT_EQ(text.GetLineSpacing(), 16.95F);
 }
 
 }  // namespace
