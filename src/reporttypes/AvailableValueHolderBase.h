@@ -8,7 +8,7 @@ class CDoubleElement;
 /// supplier derives from it, sets the keys and registers the object with the zone
 /// (CReportZone::AddAvailableValueHolder). The library itself never asks for a value.
 ///
-/// The texts have no value until they are set, and a longer one is cut to the room that is there.
+/// The texts are to be set before they are read, and a longer one is cut to the room that is there.
 class ZEB_EXPORT CAvailableValueHolderBase {
  public:
   CAvailableValueHolderBase();
@@ -37,8 +37,10 @@ class ZEB_EXPORT CAvailableValueHolderBase {
   /// Keeps at most 1023 characters.
   void SetExternalDescription(const wchar_t* description);
 
+ protected:
+  wchar_t m_szValueText[1024];  // room for a text of a derived class; not used here
+
  private:
-  [[maybe_unused]] wchar_t m_szValueText[1024];  // room for a text of a derived class
   wchar_t m_szInternalKey[255];
   wchar_t m_szExternalKey[255];
   wchar_t m_szExternalDescription[1024];

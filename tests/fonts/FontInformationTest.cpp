@@ -13,12 +13,11 @@
 #include "support/KeepForever.h"
 #include "support/RaisedKey.h"
 #include "support/TempDir.h"
+#include "support/VirtualSlot.h"
 #include "support/WidePath.h"
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <cstring>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -111,19 +110,11 @@ TEST(FontInformation, TheFaceMayBeNamedByTheMetricsThatItReplaces) {
   EXPECT_STREQ(font.GetFontMetrics()->GetBaseFont(), L"");
 }
 
-/// The place of a virtual operation in its class's table: a pointer to it holds the offset plus 1.
-template <class Member>
-std::size_t Slot(Member member) {
-  std::size_t offset = 0;
-  std::memcpy(&offset, &member, sizeof(offset));
-  return (offset - 1) / sizeof(void*);
-}
-
 TEST(FontInformation, VirtualOperationsStandInTheirOrder) {
   // The destructor takes the first two places.
   EXPECT_TRUE(std::has_virtual_destructor_v<CFontInformation>);
-  EXPECT_EQ(Slot(&CFontInformation::Load), 2U);
-  EXPECT_EQ(Slot(&CFontInformation::Save), 3U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CFontInformation::Load), 2U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CFontInformation::Save), 3U);
 }
 
 }  // namespace

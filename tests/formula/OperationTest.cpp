@@ -10,12 +10,11 @@
 #include "formula/VariableOperation.h"
 #include "formula/ZahlOperation.h"
 #include "foundation/KXException.h"
+#include "support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstddef>
-#include <cstring>
 #include <functional>
 #include <limits>
 #include <type_traits>
@@ -33,14 +32,6 @@ std::wstring KeyOf(const std::function<void()>& call) {
     return formulatest::KeyOfError(exception.GetErrorNr());
   }
   return {};
-}
-
-/// The place of a virtual operation in its class's table: a pointer to it holds the offset plus 1.
-template <class Member>
-std::size_t Slot(Member member) {
-  std::size_t offset = 0;
-  std::memcpy(&offset, &member, sizeof(offset));
-  return (offset - 1) / sizeof(void*);
 }
 
 class OpenSum : public PlusMinusOperation {
@@ -89,23 +80,23 @@ class LeftOperation : public PlusMinusOperation {
 }  // namespace
 
 TEST(Operation, FixedVirtualOperationsStandInTheirOrderWithoutADestructor) {
-  EXPECT_EQ(Slot(&Operation::EvalNextOperation), 0U);
-  EXPECT_EQ(Slot(&Operation::Eval), 1U);
-  EXPECT_EQ(Slot(&OpenSum::FindOperation), 2U);
-  EXPECT_EQ(Slot(&BiOperation::BerechneOp), 3U);
+  EXPECT_EQ(zebtest::VirtualSlot(&Operation::EvalNextOperation), 0U);
+  EXPECT_EQ(zebtest::VirtualSlot(&Operation::Eval), 1U);
+  EXPECT_EQ(zebtest::VirtualSlot(&OpenSum::FindOperation), 2U);
+  EXPECT_EQ(zebtest::VirtualSlot(&BiOperation::BerechneOp), 3U);
   EXPECT_FALSE(std::has_virtual_destructor_v<Operation>);
 }
 
 TEST(Operation, ParsersHaveTheirVirtualOperationsInOrder) {
   // The destructor takes the first two places.
   EXPECT_TRUE(std::has_virtual_destructor_v<CFormulaParser>);
-  EXPECT_EQ(Slot(&CFormulaParser::WerteAus), 2U);
-  EXPECT_EQ(Slot(&CFormulaParser::GetErrorMessage), 3U);
-  EXPECT_EQ(Slot(&CFormulaParser::SetWithStringFunctions), 4U);
-  EXPECT_EQ(Slot(&CVariableFormulaParser::SetIgnoreGrossKlein), 5U);
-  EXPECT_EQ(Slot(&CReplaceVariableFormulaParser::WerteAus), 2U);
-  EXPECT_EQ(Slot(&CReplaceVariableFormulaParser::SetWithStringFunctions), 4U);
-  EXPECT_EQ(Slot(&CReplaceVariableFormulaParser::SetIgnoreGrossKlein), 5U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CFormulaParser::WerteAus), 2U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CFormulaParser::GetErrorMessage), 3U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CFormulaParser::SetWithStringFunctions), 4U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CVariableFormulaParser::SetIgnoreGrossKlein), 5U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CReplaceVariableFormulaParser::WerteAus), 2U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CReplaceVariableFormulaParser::SetWithStringFunctions), 4U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CReplaceVariableFormulaParser::SetIgnoreGrossKlein), 5U);
 }
 
 TEST(Operation, HasTheDerivationOfTheGrammar) {

@@ -2,11 +2,31 @@
 
 #include "model/ReportZone.h"
 #include "reporttypes/DoubleElement.h"
+#include "support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cwchar>
 #include <memory>
 #include <string>
+#include <type_traits>
+
+namespace {
+
+/// A supplier that keeps its text in the room of the base class.
+class TextSupplier : public CAvailableValueHolderBase {
+ public:
+  static constexpr std::size_t Room = std::extent_v<decltype(m_szValueText)>;
+
+  const wchar_t* GetValueAsText() override { return m_szValueText; }
+  void CallGetValue() override { std::wcscpy(m_szValueText, L"Müller & Söhne"); }
+
+  const wchar_t* Text() const { return m_szValueText; }
+  void Clear() { m_szValueText[0] = L'\0'; }
+};
+
+}  // namespace
 
 TEST(AvailableValueHolderBase, GivesNoText) {
   CAvailableValueHolderBase supplier;
@@ -21,6 +41,36 @@ TEST(AvailableValueHolderBase, GivesANewNumberAtEachCall) {
   EXPECT_NE(first.get(), second.get());
   EXPECT_EQ(first->GetDouble(), 0.0);
   EXPECT_EQ(first->GetPrecision(), 2);
+}
+
+// A supplier that overrides nothing of the numbers.
+TEST(AvailableValueHolderBase, GivesItsNumberToDerivedClassesToo) {
+  TextSupplier supplier;
+  CAvailableValueHolderBase& base = supplier;
+  const std::unique_ptr<CDoubleElement> first(base.GetValueAsDouble());
+  const std::unique_ptr<CDoubleElement> second(base.GetValueAsDouble());
+  EXPECT_NE(first.get(), second.get());
+  EXPECT_EQ(first->GetDouble(), 0.0);
+  EXPECT_EQ(first->GetPrecision(), 2);
+}
+
+TEST(AvailableValueHolderBase, HasRoomForTheTextOfADerivedClass) {
+  TextSupplier supplier;
+  static_assert(TextSupplier::Room == 1024);
+  supplier.CallGetValue();
+  const TextSupplier copy = supplier;
+  TextSupplier assigned;
+  assigned = supplier;
+  supplier.Clear();
+  EXPECT_STREQ(copy.Text(), L"Müller & Söhne") << "the text is copied too";
+  EXPECT_STREQ(assigned.Text(), L"Müller & Söhne");
+}
+
+TEST(AvailableValueHolderBase, VirtualOperationsStandInTheirOrder) {
+  static_assert(std::has_virtual_destructor_v<CAvailableValueHolderBase>);
+  EXPECT_EQ(zebtest::VirtualSlot(&CAvailableValueHolderBase::GetValueAsText), 2U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CAvailableValueHolderBase::GetValueAsDouble), 3U);
+  EXPECT_EQ(zebtest::VirtualSlot(&CAvailableValueHolderBase::CallGetValue), 4U);
 }
 
 TEST(AvailableValueHolderBase, KeepsItsTexts) {
@@ -63,6 +113,41 @@ TEST(AvailableValueHolderBase, IsFoundByTheTextOfItsKey) {
   EXPECT_EQ(zone.GetAvailableValueHolder(L"BE.Datum"), nullptr);
 }
 
+// The zone keeps no copy of the key: it looks into the object.
+TEST(AvailableValueHolderBase, FixedKeyIsReadInTheObjectItself) {
+  CReportZone zone;
+  CAvailableValueHolderBase supplier;
+  supplier.SetInternalKey(L"AD.Ort");
+  zone.AddAvailableValueHolder(&supplier);
+  supplier.SetInternalKey(L"AD.Land");
+  EXPECT_EQ(zone.GetAvailableValueHolder(L"AD.Land"), &supplier);
+  EXPECT_EQ(zone.GetAvailableValueHolder(L"AD.Ort"), nullptr);
+}
+
+TEST(AvailableValueHolderBase, IsNotOwnedByTheZone) {
+  CAvailableValueHolderBase supplier;
+  supplier.SetInternalKey(L"AD.Ort");
+  {
+    CReportZone zone;
+    zone.AddAvailableValueHolder(&supplier);
+  }
+  EXPECT_STREQ(supplier.GetInternalKey(), L"AD.Ort");
+}
+
+TEST(AvailableValueHolderBase, IsFoundByTheExactKeyAmongMany) {
+  CReportZone zone;
+  CAvailableValueHolderBase suppliers[5];
+  const wchar_t* const keys[] = {L"b", L"B", L"ab", L"", L"a"};
+  for (int i = 0; i < 5; ++i) {
+    suppliers[i].SetInternalKey(keys[i]);
+    zone.AddAvailableValueHolder(&suppliers[i]);
+  }
+  for (int i = 0; i < 5; ++i) {
+    EXPECT_EQ(zone.GetAvailableValueHolder(std::wstring(keys[i]).c_str()), &suppliers[i]) << i;
+  }
+  EXPECT_EQ(zone.GetAvailableValueHolder(L"A"), nullptr);
+}
+
 TEST(DoubleElement, HasItsDefaultsAndKeepsItsValues) {
   CDoubleElement number;
   EXPECT_EQ(number.GetDouble(), 0.0);
@@ -75,5 +160,11 @@ TEST(DoubleElement, HasItsDefaultsAndKeepsItsValues) {
   const CDoubleElement copy = number;
   EXPECT_EQ(copy.GetDouble(), -2.25);
   EXPECT_EQ(copy.GetPrecision(), 0);
+  EXPECT_EQ(CDoubleElement(7.0, 1).GetDouble(), 7.0);
   EXPECT_EQ(CDoubleElement(7.0, 1).GetPrecision(), 1);
+  CDoubleElement assigned;
+  assigned = CDoubleElement(7.0, 1);
+  EXPECT_EQ(assigned.GetDouble(), 7.0);
+  EXPECT_EQ(assigned.GetPrecision(), 1);
+  static_assert(std::has_virtual_destructor_v<CDoubleElement>);
 }

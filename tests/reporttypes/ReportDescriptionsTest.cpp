@@ -1,13 +1,13 @@
 #include "reporttypes/ReportDescriptions.h"
 
-#include "foundation/KXException.h"
-#include "foundation/XMLFile.h"
 #include "reporttypes/DynamicValueHolderAttribute.h"
 #include "reporttypes/DynamicValueHolderItem.h"
 #include "reporttypes/DynamicValueHolderType.h"
 #include "reporttypes/ReportDescription.h"
 #include "support/Files.h"
+#include "support/KeepForever.h"
 #include "support/TempDir.h"
+#include "support/XMLFailure.h"
 
 #include <gtest/gtest.h>
 
@@ -137,20 +137,6 @@ TEST_F(ReportDescriptionsFile, OfTheOldSampleIsSavedWholeInNewNames) {
   EXPECT_EQ(newer.GetDynamicVHItemCount(), 1);
 }
 
-TEST_F(ReportDescriptionsFile, EntryOfTheOldGenerationHasNoFileNameInTheNewOne) {
-  zebtest::WriteFile(m_dir.File("entry.xml"),
-                     "<E><ReportType>T</ReportType><ReportName>N</ReportName><FileName>f</FileName></E>");
-  const zeb::XMLFile file = zeb::XMLFile::Load(m_dir.WideFile("entry.xml").c_str());
-  CReportDescription unset;
-  EXPECT_TRUE(unset.Load(file.Root()));
-  EXPECT_STREQ(unset.GetReportName(), L"N");
-  EXPECT_STREQ(unset.GetFileName(), L"");
-  CReportDescription current;
-  current.SetVersionNr(2);
-  EXPECT_TRUE(current.Load(file.Root()));
-  EXPECT_STREQ(current.GetFileName(), L"f");
-}
-
 TEST_F(ReportDescriptionsFile, ItemWithoutTypeHasANullType) {
   CReportDescriptions descriptions;
   descriptions.LoadReportDescriptions(
@@ -239,26 +225,124 @@ TEST_F(ReportDescriptionsFile, LoadedTwiceDoublesEntriesAndItems) {
   EXPECT_EQ(descriptions.GetDynamicVHItemCount(), 6);
 }
 
-TEST_F(ReportDescriptionsFile, ThatIsMissingOrMalformedOrNotWritableIsAnXMLException) {
+TEST_F(ReportDescriptionsFile, WithoutVersionCountsAsGeneration2) {
   CReportDescriptions descriptions;
-  EXPECT_THROW(descriptions.LoadReportDescriptions(m_dir.WideFile("missing.xml").c_str()), CKXXMLException);
-  EXPECT_THROW(descriptions.LoadReportDescriptions(Write("<open>").c_str()), CKXXMLException);
-  EXPECT_THROW(descriptions.SaveReportDescriptions(m_dir.WideFile("no/such/folder.xml").c_str()),
-               CKXXMLException);
+  descriptions.LoadReportDescriptions(
+      Write("<ProductFamily>F</ProductFamily><ReportDescription><FileName>f</FileName></ReportDescription>")
+          .c_str());
+  EXPECT_STREQ(descriptions.GetProductFamily(), L"F");
+  EXPECT_EQ(descriptions.GetReportDescriptionVersionNr(), -1);
+  ASSERT_EQ(descriptions.GetReportDescriptionsCount(), 1);
+  EXPECT_STREQ(descriptions.GetReportDescriptionAt(0)->GetFileName(), L"f");
 }
 
-TEST(ReportDescriptions, ValueTypesCopyDeep) {
-  CReportDescription entry;
-  entry.SetReportName(L"N");
-  const CReportDescription copy = entry;
-  entry.SetReportName(L"M");
-  EXPECT_STREQ(copy.GetReportName(), L"N");
+TEST_F(ReportDescriptionsFile, ReadsTheProductFamilyUnderTheNameOfItsVersionOnly) {
+  for (const char* version : {"1", "0", "-1", "none"}) {
+    const std::string number = std::string("<VersionNr>") + version + "</VersionNr>";
+    CReportDescriptions older;
+    older.LoadReportDescriptions(Write(number + "<ReportProductFamily>F</ReportProductFamily>").c_str());
+    EXPECT_STREQ(older.GetProductFamily(), L"F") << version;
+    CReportDescriptions newNames;
+    newNames.LoadReportDescriptions(Write(number + "<ProductFamily>F</ProductFamily>").c_str());
+    EXPECT_STREQ(newNames.GetProductFamily(), L"") << version;
+  }
+  for (const char* version : {"2", "3"}) {
+    const std::string number = std::string("<VersionNr>") + version + "</VersionNr>";
+    CReportDescriptions newer;
+    newer.LoadReportDescriptions(Write(number + "<ProductFamily>F</ProductFamily>").c_str());
+    EXPECT_STREQ(newer.GetProductFamily(), L"F") << version;
+    CReportDescriptions oldNames;
+    oldNames.LoadReportDescriptions(
+        Write(number + "<ReportProductFamily>F</ReportProductFamily><ReportDescription/>").c_str());
+    EXPECT_STREQ(oldNames.GetProductFamily(), L"") << version;
+    EXPECT_EQ(oldNames.GetReportDescriptionsCount(), 0) << version;
+  }
 }
 
-TEST(ReportDescriptions, KindAndAttributeHaveNoVirtualDestructor) {
-  EXPECT_FALSE(std::has_virtual_destructor_v<CDynamicValueHolderType>);
-  EXPECT_FALSE(std::has_virtual_destructor_v<CDynamicValueHolderAttribute>);
-  EXPECT_TRUE(std::is_polymorphic_v<CDynamicValueHolderType>);
-  EXPECT_TRUE(std::is_polymorphic_v<CDynamicValueHolderAttribute>);
-  EXPECT_TRUE(std::has_virtual_destructor_v<CDynamicValueHolderItem>);
+TEST_F(ReportDescriptionsFile, FixedOrderOfTheFirstFieldsDecidesWhatIsRead) {
+  CReportDescriptions descriptions;
+  descriptions.LoadReportDescriptions(
+      Write("<VersionNr>2</VersionNr><ProductFamily>F</ProductFamily>"
+            "<ReportDescriptionVersionNr>4</ReportDescriptionVersionNr><ReportDescription/>")
+          .c_str());
+  EXPECT_STREQ(descriptions.GetProductFamily(), L"F");
+  EXPECT_EQ(descriptions.GetReportDescriptionVersionNr(), -1);
+  EXPECT_EQ(descriptions.GetReportDescriptionsCount(), 0);
+}
+
+TEST_F(ReportDescriptionsFile, HoldsAnEmptyConfigurationForANullItem) {
+  CReportDescriptions descriptions;
+  descriptions.AddDynamicVHItem(nullptr);
+  EXPECT_EQ(Saved(descriptions), Document("  <VersionNr>2</VersionNr>\n"
+                                          "  <ReportDescriptionVersionNr>-1</ReportDescriptionVersionNr>\n"
+                                          "  <ProductFamily/>\n"
+                                          "  <DynamicValueHolderConfig/>\n"));
+}
+
+TEST_F(ReportDescriptionsFile, ThatIsMissingOrMalformedIsAnXMLExceptionOfTheSameNumberAndMessage) {
+  CReportDescriptions descriptions;
+  const auto load = [&](const std::wstring& file) {
+    return zebtest::RaisedFailure([&] { descriptions.LoadReportDescriptions(file.c_str()); });
+  };
+  const std::wstring missing = m_dir.WideFile("missing.xml");
+  EXPECT_EQ(load(missing), zebtest::FailureOfLoading(missing));
+  EXPECT_EQ(load(missing).Number, 1);
+  const std::wstring open = Write("<open>");
+  EXPECT_EQ(load(open), zebtest::FailureOfLoading(open));
+  EXPECT_EQ(load(open).Number, 2);
+}
+
+TEST_F(ReportDescriptionsFile, ThatCannotBeWrittenIsAnXMLException) {
+  CReportDescriptions descriptions;
+  const auto save = [&](const std::wstring& file) {
+    return zebtest::RaisedFailure([&] { descriptions.SaveReportDescriptions(file.c_str()); });
+  };
+  EXPECT_EQ(save(m_dir.WideFile("no/folder.xml")),
+            zebtest::FailureOfSaving(L"ReportDescriptionRootElement", m_dir.WideFile("no/folder.xml")));
+  EXPECT_EQ(save(m_dir.WideFile("no/folder.xml")).Number, 3);
+  zebtest::WriteFile(m_dir.File("old.xml"), "old");
+  std::filesystem::permissions(m_dir.File("old.xml"), std::filesystem::perms::owner_read);
+  EXPECT_EQ(save(m_dir.WideFile("old.xml")).Number, 4);
+  EXPECT_EQ(zebtest::ReadFile(m_dir.File("old.xml")), "old");
+}
+
+TEST_F(ReportDescriptionsFile, CopiesShareEntriesAndItems) {
+  CReportDescriptions source;
+  source.LoadReportDescriptions(Sample("descriptions.xml").c_str());
+  auto& copy = zebtest::KeepForever(new CReportDescriptions(source));
+  auto& assigned = zebtest::KeepForever(new CReportDescriptions);
+  assigned = source;
+  source.SetProductFamily(L"other");
+  source.AddReportDescription(new CReportDescription);
+  source.AddDynamicVHItem(new CDynamicValueHolderItem);
+  for (CReportDescriptions* each : {&copy, &assigned}) {
+    EXPECT_STREQ(each->GetProductFamily(), L"Handel & Bank");
+    EXPECT_EQ(each->GetReportDescriptionVersionNr(), 3);
+    ASSERT_EQ(each->GetReportDescriptionsCount(), 3);
+    ASSERT_EQ(each->GetDynamicVHItemCount(), 3);
+    for (int i = 0; i < 3; ++i) {
+      EXPECT_EQ(each->GetReportDescriptionAt(i), source.GetReportDescriptionAt(i));
+      EXPECT_EQ(each->GetDynamicVHItemAt(i), source.GetDynamicVHItemAt(i));
+    }
+  }
+}
+
+// Which questions are const is part of the interface.
+TEST(ReportDescriptions, FixedSignaturesTellWhatIsConst) {
+  using Catalogue = CReportDescriptions;
+  static_assert(std::has_virtual_destructor_v<Catalogue>);
+  static_assert(
+      std::is_same_v<decltype(&Catalogue::LoadReportDescriptions), void (Catalogue::*)(const wchar_t*)>);
+  static_assert(
+      std::is_same_v<decltype(&Catalogue::SaveReportDescriptions), void (Catalogue::*)(const wchar_t*)>);
+  static_assert(std::is_same_v<decltype(&Catalogue::GetReportDescriptionAt),
+                               CReportDescription* (Catalogue::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Catalogue::GetReportDescriptionsCount), int (Catalogue::*)()>);
+  static_assert(
+      std::is_same_v<decltype(&Catalogue::GetDynamicVHItemAt), CDynamicValueHolderItem* (Catalogue::*)(int)>);
+  static_assert(std::is_same_v<decltype(&Catalogue::GetDynamicVHItemCount), int (Catalogue::*)() const>);
+  static_assert(
+      std::is_same_v<decltype(&Catalogue::GetProductFamily), const wchar_t* (Catalogue::*)() const>);
+  static_assert(
+      std::is_same_v<decltype(&Catalogue::GetReportDescriptionVersionNr), int (Catalogue::*)() const>);
 }

@@ -1,16 +1,17 @@
 #include "reporttypes/ReportType.h"
 
-#include "foundation/KXException.h"
-#include "foundation/XMLFile.h"
 #include "reporttypes/AvailableVH.h"
 #include "reporttypes/ReportTypeZone.h"
 #include "support/Files.h"
+#include "support/KeepForever.h"
 #include "support/TempDir.h"
+#include "support/XMLFailure.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -83,6 +84,8 @@ TEST_F(ReportTypeFile, OfGeneration1HoldsTheSameZonesAndValueHolders) {
     const CReportTypeZone* a = older.GetReportTypeZoneAt(z);
     const CReportTypeZone* b = newer.GetReportTypeZoneAt(z);
     EXPECT_STREQ(a->GetInternalName(), b->GetInternalName());
+    EXPECT_STREQ(a->GetExternalName(), b->GetExternalName());
+    EXPECT_STREQ(a->GetExternalDescription(), b->GetExternalDescription());
     EXPECT_EQ(a->GetEquivalentInternalNameCount(), 0);
     EXPECT_FALSE(a->GetFooterZone());
     ASSERT_EQ(a->GetAvailableValueHolderCount(), b->GetAvailableValueHolderCount());
@@ -266,29 +269,103 @@ TEST_F(ReportTypeFile, HoldsWhatACallerPutTogether) {
                                   "  </ReportTypeZone>\n"));
 }
 
-TEST_F(ReportTypeFile, FixedZoneWithoutVersionNumberReadsGeneration1) {
-  zebtest::WriteFile(m_dir.File("zone.xml"),
-                     "<Z><InternalReportTypeZoneName>old</InternalReportTypeZoneName>"
-                     "<InternalName>new</InternalName></Z>");
-  const zeb::XMLFile file = zeb::XMLFile::Load(m_dir.WideFile("zone.xml").c_str());
-  CReportTypeZone zone;
-  EXPECT_TRUE(zone.Load(file.Root()));
-  EXPECT_STREQ(zone.GetInternalName(), L"old");
+TEST_F(ReportTypeFile, ReadsZonesInTheNamesOfItsVersion) {
+  const std::string oldZone =
+      "<ReportTypeZone><InternalReportTypeZoneName>Z</InternalReportTypeZoneName></ReportTypeZone>";
+  const std::string newZone = "<ReportTypeZone><InternalName>Z</InternalName></ReportTypeZone>";
+  for (const char* version : {"1", "0", "-1", "none"}) {
+    CReportType type;
+    type.LoadReportType(
+        Write(std::string("<VersionNr>") + version + "</VersionNr>" + oldZone + newZone).c_str());
+    ASSERT_EQ(type.GetReportTypeZonesCount(), 2) << version;
+    EXPECT_STREQ(type.GetReportTypeZoneAt(0)->GetInternalName(), L"Z") << version;
+    EXPECT_STREQ(type.GetReportTypeZoneAt(1)->GetInternalName(), L"") << version;
+  }
+  for (const char* version : {"2", "3"}) {
+    CReportType type;
+    type.LoadReportType(
+        Write(std::string("<VersionNr>") + version + "</VersionNr>" + oldZone + newZone).c_str());
+    ASSERT_EQ(type.GetReportTypeZonesCount(), 2) << version;
+    EXPECT_STREQ(type.GetReportTypeZoneAt(0)->GetInternalName(), L"") << version;
+    EXPECT_STREQ(type.GetReportTypeZoneAt(1)->GetInternalName(), L"Z") << version;
+  }
 }
 
-TEST_F(ReportTypeFile, ThatIsMissingOrMalformedOrNotWritableIsAnXMLException) {
+TEST_F(ReportTypeFile, FixedVersionNumberStaysForALoadThatNamesNone) {
   CReportType type;
-  EXPECT_THROW(type.LoadReportType(m_dir.WideFile("missing.xml").c_str()), CKXXMLException);
-  EXPECT_THROW(type.LoadReportType(Write("<open>").c_str()), CKXXMLException);
-  EXPECT_THROW(type.SaveReportType(m_dir.WideFile("no/such/folder.xml").c_str()), CKXXMLException);
+  type.LoadReportType(Write("<VersionNr>1</VersionNr>").c_str());
+  type.LoadReportType(Write("<ReportTypeZone><InternalName>Z</InternalName></ReportTypeZone>").c_str());
+  ASSERT_EQ(type.GetReportTypeZonesCount(), 1);
+  EXPECT_STREQ(type.GetReportTypeZoneAt(0)->GetInternalName(), L"");
 }
 
-TEST(ReportType, CopySharesItsZones) {
+TEST_F(ReportTypeFile, ThatIsMissingOrMalformedIsAnXMLExceptionOfTheSameNumberAndMessage) {
+  CReportType type;
+  const auto load = [&](const std::wstring& file) {
+    return zebtest::RaisedFailure([&] { type.LoadReportType(file.c_str()); });
+  };
+  const std::wstring missing = m_dir.WideFile("missing.xml");
+  EXPECT_EQ(load(missing), zebtest::FailureOfLoading(missing));
+  EXPECT_EQ(load(missing).Number, 1);
+  const std::wstring open = Write("<open>");
+  EXPECT_EQ(load(open), zebtest::FailureOfLoading(open));
+  EXPECT_EQ(load(open).Number, 2);
+}
+
+TEST_F(ReportTypeFile, ThatCannotBeWrittenIsAnXMLException) {
+  CReportType type;
+  const auto save = [&](const std::wstring& file) {
+    return zebtest::RaisedFailure([&] { type.SaveReportType(file.c_str()); });
+  };
+  EXPECT_EQ(save(m_dir.WideFile("no/folder.xml")),
+            zebtest::FailureOfSaving(L"ReportTypeRootElement", m_dir.WideFile("no/folder.xml")));
+  EXPECT_EQ(save(m_dir.WideFile("no/folder.xml")).Number, 3);
+  zebtest::WriteFile(m_dir.File("old.xml"), "old");
+  std::filesystem::permissions(m_dir.File("old.xml"), std::filesystem::perms::owner_read);
+  EXPECT_EQ(save(m_dir.WideFile("old.xml")).Number, 4);
+  EXPECT_EQ(zebtest::ReadFile(m_dir.File("old.xml")), "old");
+}
+
+TEST_F(ReportTypeFile, FixedCopiesAreSavedUnderTheVersionNumberOfTheirSource) {
+  CReportType source;
+  source.LoadReportType(Write("<VersionNr>1</VersionNr><ReportVersionNr>4</ReportVersionNr>").c_str());
+  CReportType copy = source;
+  CReportType assigned;
+  assigned = source;
+  for (CReportType* each : {&copy, &assigned}) {
+    EXPECT_EQ(Saved(*each), Document("  <VersionNr>1</VersionNr>\n"
+                                     "  <ReportVersionNr>4</ReportVersionNr>\n"
+                                     "  <ReportType/>\n"));
+  }
+}
+
+TEST(ReportType, CopiesShareTheZones) {
   CReportType type;
   type.SetReportType(L"T");
   type.AddReportTypeZone(new CReportTypeZone);
-  // Both objects would delete the zone, so the copy is never destroyed.
-  static const CReportType* const copy = new CReportType(type);
-  EXPECT_EQ(copy->GetReportTypeZoneAt(0), type.GetReportTypeZoneAt(0));
-  EXPECT_STREQ(copy->GetReportType(), L"T");
+  auto& copy = zebtest::KeepForever(new CReportType(type));
+  auto& assigned = zebtest::KeepForever(new CReportType);
+  assigned = type;
+  type.SetReportType(L"other");
+  type.AddReportTypeZone(new CReportTypeZone);
+  for (const CReportType* each : {&copy, &assigned}) {
+    ASSERT_EQ(each->GetReportTypeZonesCount(), 1);
+    EXPECT_EQ(each->GetReportTypeZoneAt(0), type.GetReportTypeZoneAt(0));
+    EXPECT_STREQ(each->GetReportType(), L"T");
+  }
+}
+
+TEST(ReportType, OffersItsOperationsUnderTheirSignatures) {
+  static_assert(std::has_virtual_destructor_v<CReportType>);
+  static_assert(
+      std::is_same_v<decltype(&CReportType::LoadReportType), void (CReportType::*)(const wchar_t*)>);
+  static_assert(
+      std::is_same_v<decltype(&CReportType::SaveReportType), void (CReportType::*)(const wchar_t*)>);
+  static_assert(
+      std::is_same_v<decltype(&CReportType::AddReportTypeZone), void (CReportType::*)(CReportTypeZone*)>);
+  static_assert(std::is_same_v<decltype(&CReportType::GetReportTypeZoneAt),
+                               CReportTypeZone* (CReportType::*)(int) const>);
+  static_assert(
+      std::is_same_v<decltype(&CReportType::GetReportTypeZonesCount), int (CReportType::*)() const>);
+  static_assert(std::is_same_v<decltype(&CReportType::GetReportVersionNr), int (CReportType::*)() const>);
 }

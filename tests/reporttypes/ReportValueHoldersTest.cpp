@@ -5,6 +5,7 @@
 #include "foundation/KXExceptionHandler.h"
 #include "support/KeepForever.h"
 #include "support/LoadedReport.h"
+#include "support/RaisedKey.h"
 
 #include <gtest/gtest.h>
 
@@ -349,8 +350,10 @@ TEST_F(ReportValueHolders, RaiseTiesInACircle) {
   LoadText(ReportOfOneZone("<TxID>2</TxID><TxID>3</TxID>", TextRecord(2, "<PlRelID>4</PlRelID>") +
                                                                TextRecord(3, "<PlRelID>5</PlRelID>") +
                                                                relation(4, 3) + relation(5, 2)));
-  EXPECT_THROW(m_facade.GetReportZoneOrderedElementCount(0), CKXException);
-  EXPECT_THROW(m_facade.GetReportZoneOrderedElementAt(0, 0), CKXException);
+  EXPECT_EQ(zebtest::RaisedKey([&] { m_facade.GetReportZoneOrderedElementCount(0); }),
+            L"OrderVectorNotSortable");
+  EXPECT_EQ(zebtest::RaisedKey([&] { m_facade.GetReportZoneOrderedElementAt(0, 0); }),
+            L"OrderVectorNotSortable");
 }
 
 TEST_F(ReportValueHolders, GiveTheSizeOfAGraphic) {
