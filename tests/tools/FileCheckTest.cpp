@@ -315,16 +315,18 @@ TEST_F(FileCheck, Planted19KindThatPagesDoNotHold) {
 }
 
 TEST_F(FileCheck, Planted20NameOfTheOtherGeneration) {
-  EXPECT_THAT(Check(R"(
+  EXPECT_THAT(
+      Check(R"(
 <ReportTypeRootElement>
   <VersionNr>2</VersionNr>
   <ReportTypeZone>
     <InternalReportTypeZoneName>a</InternalReportTypeZoneName>
   </ReportTypeZone>
 </ReportTypeRootElement>)"),
-              ElementsAre(Finding{4, 5, L"/ReportTypeRootElement/ReportTypeZone/InternalReportTypeZoneName",
-                                  Fault::UnknownName,
-                                  L"nothing reads InternalReportTypeZoneName in ReportTypeZone"}));
+      ElementsAre(Finding{
+          4, 5, L"/ReportTypeRootElement/ReportTypeZone/InternalReportTypeZoneName", Fault::UnknownName,
+          L"nothing reads InternalReportTypeZoneName in ReportTypeZone; files of another VersionNr "
+          L"have that name, so mend the VersionNr or the name"}));
 }
 
 // ------------------------------------------------------------------------------------------------------- other kinds

@@ -9,6 +9,8 @@ namespace zebreport {
 
 namespace {
 
+constexpr int kFontPoolIncomplete = 4010;  // the catalogue's number, which never changes
+
 /// What a user can do about a failure of the XML facility.
 const wchar_t* Advice(int xmlErrorCode) {
   switch (xmlErrorCode) {
@@ -59,8 +61,11 @@ Failure LibraryFailure(const std::wstring& file, const CKXException& exception) 
                    L": the library failed and its error catalogue does not say why; name the catalogue's " +
                    L"folder with --catalogue.");
   }
-  return Failure(file + L": " + message + L" (error " + std::to_wstring(exception.GetErrorNr()) +
-                 L"); look at what the file says there.");
+  const std::wstring advice = exception.GetErrorNr() == kFontPoolIncomplete
+                                  ? L"install the font or name a font pool that has it with --fonts"
+                                  : L"look at what the file says there";
+  return Failure(file + L": " + message + L" (error " + std::to_wstring(exception.GetErrorNr()) + L"); " +
+                 advice + L".");
 }
 
 }  // namespace zebreport

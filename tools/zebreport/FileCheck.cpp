@@ -8,6 +8,7 @@
 #include "foundation/XMLFile.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 // This file knows how the readings of the library can be listened to, which is no part of its interface.
@@ -79,6 +80,43 @@ const FileKind& KindOf(const std::wstring& file) {
                 L"error catalogue file.");
 }
 
+/// Names that catalogue files have in one generation only, each at its place.
+constexpr std::wstring_view kNamesOfOneGeneration[] = {
+    L"InternalReportTypeZoneName",
+    L"ExternalReportTypeZoneName",
+    L"ExternalReportTypeZoneDescription",
+    L"ReportTypeZoneAvailableValueHolder",
+    L"AvailableValueHolderType",
+    L"InternalName",
+    L"EquivalentInternalName",
+    L"ExternalName",
+    L"ExternalDescription",
+    L"FooterZone",
+    L"VH",
+    L"Key",
+    L"Name",
+    L"Desc",
+    L"Type",
+    L"ReportProductFamily",
+    L"ProductFamily",
+    L"ReportDescriptionSubDirectory",
+    L"ReportDescriptionFileName",
+    L"FileName",
+};
+
+/// Names can be good ones of another generation: a catalogue that is loaded and saved keeps its number but not its names.
+void ExplainGeneration(const FileKind& kind, std::vector<zeb::ReadingFinding>& findings) {
+  if (kind.Load != LoadTypeFile && kind.Load != LoadDescriptionFile) return;
+  for (zeb::ReadingFinding& finding : findings) {
+    const std::wstring name = finding.Path.substr(finding.Path.rfind(L'/') + 1);
+    const auto found = std::find(std::begin(kNamesOfOneGeneration), std::end(kNamesOfOneGeneration),
+                                 name.substr(0, name.find(L'[')));
+    if (finding.Fault == zeb::ReadingFault::UnknownName && found != std::end(kNamesOfOneGeneration)) {
+      finding.Text += L"; files of another VersionNr have that name, so mend the VersionNr or the name";
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<zeb::ReadingFinding> CheckFile(const std::wstring& file) {
@@ -87,7 +125,9 @@ std::vector<zeb::ReadingFinding> CheckFile(const std::wstring& file) {
     if (kind.Load == nullptr) return {};
     const zeb::ReadingTrace trace;
     kind.Load(file);
-    return trace.Findings();
+    std::vector<zeb::ReadingFinding> findings = trace.Findings();
+    ExplainGeneration(kind, findings);
+    return findings;
   } catch (const zebxmln::CXMLException& exception) {
     throw LibraryFailure(file, CKXXMLException(exception.GetErrorCode(), exception.GetErrorMessage()));
   } catch (const CKXException& exception) {

@@ -60,7 +60,10 @@ void WriteZone(const ZoneNeeds& zone, std::wstring& output) {
         {field.key, field.kind, TypeName(field.type), field.place, field.name, Result(field), Source(field)});
   }
   fields.AppendTo(output, 1);
-  if (!zone.formulaKeys.empty()) lines.Add(1, L"formulas read: " + Joined(zone.formulaKeys));
+  if (!zone.formulaKeys.empty()) lines.Add(1, L"formulas and conditions read: " + Joined(zone.formulaKeys));
+  if (!zone.definedFormulaKeys.empty()) {
+    lines.Add(1, L"defined formulas also read: " + Joined(zone.definedFormulaKeys));
+  }
   if (!zone.sumKeys.empty()) lines.Add(1, L"sums add up: " + Joined(zone.sumKeys));
   for (const NeededGraphic& graphic : zone.graphics) {
     lines.Add(1, L"graphic " + graphic.key + L": " + Number(graphic.width) + L" x " + Number(graphic.height));
@@ -103,6 +106,7 @@ void WriteZone(const ZoneNeeds& zone, JsonWriter& json) {
   for (const NeededField& field : zone.fields) WriteField(field, json);
   json.End();
   WriteStrings(L"formulaKeys", zone.formulaKeys, json);
+  WriteStrings(L"definedFormulaKeys", zone.definedFormulaKeys, json);
   WriteStrings(L"sumKeys", zone.sumKeys, json);
   json.Key(L"graphics").BeginArray();
   for (const NeededGraphic& graphic : zone.graphics) {

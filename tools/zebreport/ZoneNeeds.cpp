@@ -1,5 +1,6 @@
 #include "ZoneNeeds.h"
 
+#include "FormulaText.h"
 #include "Names.h"
 
 #include <algorithm>
@@ -70,6 +71,21 @@ std::vector<const CValueHolder*> ObjectsOfIndex(const CReportZone& zone) {
   return objects;
 }
 
+void AddOnce(const std::wstring& key, std::vector<std::wstring>& keys) {
+  if (std::find(keys.begin(), keys.end(), key) == keys.end()) keys.push_back(key);
+}
+
+/// The keys of the defined formulas, which the library leaves out of its keys. A bad formula has none.
+void AddDefinedFormulaKeys(ZoneNeeds& needs) {
+  for (const NeededField& field : needs.fields) {
+    if (field.place != L"defined") continue;
+    for (const std::wstring& key : FindVariables(field.formula).names) {
+      const auto& known = needs.formulaKeys;
+      if (std::find(known.begin(), known.end(), key) == known.end()) AddOnce(key, needs.definedFormulaKeys);
+    }
+  }
+}
+
 void AddGraphic(CReportValueHolders& report, int zone, const std::wstring& key, ZoneNeeds& needs) {
   const auto isKnown = [&](const NeededGraphic& graphic) { return graphic.key == key; };
   if (std::any_of(needs.graphics.begin(), needs.graphics.end(), isKnown)) return;
@@ -98,10 +114,11 @@ ZoneNeeds NeedsOfZone(CReportValueHolders& report, int zone) {
     needs.fields.push_back(DefinedField(*object.GetDefinedFormulaValueHolderAt(i)));
   }
   for (int i = 0; i < report.GetReportZoneFormulaValueHolderKeyCount(zone); ++i) {
-    needs.formulaKeys.emplace_back(report.GetReportZoneFormulaValueHolderKeyAt(zone, i));
+    AddOnce(report.GetReportZoneFormulaValueHolderKeyAt(zone, i), needs.formulaKeys);
   }
+  AddDefinedFormulaKeys(needs);
   for (int i = 0; i < object.GetSumValueHolderKeyCount(); ++i) {
-    needs.sumKeys.emplace_back(object.GetSumValueHolderKeyAt(i));
+    AddOnce(object.GetSumValueHolderKeyAt(i), needs.sumKeys);
   }
   return needs;
 }

@@ -35,10 +35,12 @@ struct NeededGraphic {
 struct ZoneNeeds {
   std::wstring name;
   bool isFooter = false;
-  std::vector<NeededField> fields;        ///< in the order of the facade's index, then the defined formulas
-  std::vector<std::wstring> formulaKeys;  ///< what formulas and conditions read
-  std::vector<std::wstring> sumKeys;      ///< what the sums of a footer zone add up
-  std::vector<NeededGraphic> graphics;    ///< one for each key
+  std::vector<NeededField> fields;  ///< in the order of the facade's index, then the defined formulas
+  // Keys, each once, in the order met.
+  std::vector<std::wstring> formulaKeys;         ///< what formulas and conditions read
+  std::vector<std::wstring> definedFormulaKeys;  ///< what the defined formulas read besides
+  std::vector<std::wstring> sumKeys;             ///< what the sums of a footer zone add up
+  std::vector<NeededGraphic> graphics;           ///< one for each key
 };
 
 ZoneNeeds NeedsOfZone(CReportValueHolders& report, int zone);
