@@ -11,7 +11,8 @@ namespace supplier {
 
 namespace {
 
-constexpr int kToTheNearest = 1;  // mode of RundeDouble
+constexpr int kToTheNearest = 1;   // mode of RundeDouble
+constexpr int kBuiltInFonts = 25;  // every list of fonts begins with these; none has records of characters
 
 /// All formulas of a zone: placed, in table cells, and only defined.
 std::vector<CFormulaValueHolder*> FormulasOf(const CReportZone& zone) {
@@ -28,6 +29,19 @@ std::vector<CFormulaValueHolder*> FormulasOf(const CReportZone& zone) {
     formulas.push_back(zone.GetDefinedFormulaValueHolderAt(i));
   }
   return formulas;
+}
+
+/// All sums of a zone: placed, and in table cells.
+std::vector<const CSumValueHolder*> SumsOf(const CReportZone& zone) {
+  std::vector<const CSumValueHolder*> sums;
+  const auto addSum = [&sums](const CValueHolder* valueHolder) {
+    if (const auto* sum = dynamic_cast<const CSumValueHolder*>(valueHolder)) sums.push_back(sum);
+  };
+  for (int i = 0; i < zone.GetValueHolderCount(); ++i) addSum(zone.GetValueHolderAt(i));
+  for (int i = 0; i < zone.GetValueHoldersInTableCellsCount(); ++i) {
+    addSum(zone.GetValueHoldersInTableCellsAt(i));
+  }
+  return sums;
 }
 
 /// All objects of a zone that can have a condition, in the order of its lists.
@@ -86,19 +100,34 @@ ReportRun::ReportRun(const std::filesystem::path& dataFile, const std::filesyste
   m_report.LoadReport(WidePath(folder / std::u8string(report.begin(), report.end())).c_str(),
                       WidePath(folder).c_str(), WidePath(catalogueFolder).c_str());
   CollectUnowned();
-  m_supplier.OfferTo(m_report);
+  for (int i = 0; i < m_report.GetReportZoneCount(); ++i) {
+    for (const CSumValueHolder* sum : SumsOf(Zone(i))) m_sumKeys.insert(sum->GetSumKey());
+  }
+  m_supplier.OfferTo(m_report, m_sumKeys);
+}
+
+CReportZone& ReportRun::Zone(int index) const {
+  return *m_report.GetRootElement()->GetReportDocument()->GetReportZoneAt(index);
 }
 
 ReportRun::~ReportRun() {
   for (const CFormulaValueHolder* formula : m_definedFormulas) delete formula;
+  for (const CFontCharMetricsInfo* character : m_characters) delete character;
 }
 
-// Every formula of the invoice is either placed or only defined, so none of these is a zone's.
+// Every formula of the samples is either placed or only defined, so none of these is a zone's.
 void ReportRun::CollectUnowned() {
   for (int i = 0; i < m_report.GetReportZoneCount(); ++i) {
-    const CReportZone& zone = *m_report.GetRootElement()->GetReportDocument()->GetReportZoneAt(i);
+    const CReportZone& zone = Zone(i);
     for (int j = 0; j < zone.GetDefinedFormulaValueHoldersCount(); ++j) {
       m_definedFormulas.insert(zone.GetDefinedFormulaValueHolderAt(j));
+    }
+  }
+  const CFonts& fonts = *m_report.GetRootElement()->GetReportDocument()->GetFontHandler()->GetFonts();
+  for (int i = kBuiltInFonts; i < fonts.GetFontCount(); ++i) {
+    const CFontMetrics& metrics = *fonts.GetFontAt(i)->GetFontMetrics();
+    for (int j = 0; j < metrics.GetFontCharMetricsCount(); ++j) {
+      m_characters.insert(metrics.GetFontCharMetricsAt(j));
     }
   }
 }
@@ -108,10 +137,11 @@ std::vector<PrintedZone> ReportRun::Print() {
   m_totals.clear();
   for (const auto& [name, rows] : m_data.zones) {
     const int zone = m_report.GetReportZoneNr(name.c_str());
-    if (zone < 0) throw std::runtime_error("the data name a zone that the report has not");
+    if (zone < 0)
+      throw std::runtime_error("the report has no zone " + ToUtf8(name) + ", which the data name");
     for (const Row& row : rows) {
       m_supplier.SetRow(row);
-      printed.push_back(PrintZone(*m_report.GetRootElement()->GetReportDocument()->GetReportZoneAt(zone)));
+      printed.push_back(PrintZone(Zone(zone)));
     }
   }
   return printed;
@@ -120,8 +150,16 @@ std::vector<PrintedZone> ReportRun::Print() {
 PrintedZone ReportRun::PrintZone(CReportZone& zone) {
   PrintedZone printed;
   printed.name = zone.GetInternalReportZoneName();
-  ComputeSums(zone, printed);
-  ComputeFormulas(zone, printed);
+  if (zone.GetFooterZone()) {
+    ComputeSums(zone, printed);
+    ComputeFormulas(zone, printed);
+    AddToTotals(zone, printed);
+  } else {
+    // A running sum has the row in it, and what its formulas give.
+    ComputeFormulas(zone, printed);
+    AddToTotals(zone, printed);
+    ComputeSums(zone, printed);
+  }
   const FormulaInput input(zone, printed);
   for (const CPlaceable* object : ObjectsOf(zone)) {
     const CCondition* condition = object->GetCondition();
@@ -132,14 +170,11 @@ PrintedZone ReportRun::PrintZone(CReportZone& zone) {
         isComplete);
     printed.conditions.push_back({NameOf(*object), value != 0.0});
   }
-  AddToTotals(zone, printed);
   return printed;
 }
 
-void ReportRun::ComputeSums(CReportZone& zone, PrintedZone& printed) {
-  for (int i = 0; i < zone.GetValueHolderCount(); ++i) {
-    const auto* sum = dynamic_cast<const CSumValueHolder*>(zone.GetValueHolderAt(i));
-    if (sum == nullptr) continue;
+void ReportRun::ComputeSums(const CReportZone& zone, PrintedZone& printed) {
+  for (const CSumValueHolder* sum : SumsOf(zone)) {
     Result result;
     result.exact = m_totals[sum->GetSumKey()];
     result.decimals = 2;
@@ -168,15 +203,10 @@ void ReportRun::ComputeFormulas(CReportZone& zone, PrintedZone& printed) {
   }
 }
 
-// Each key that some zone's sum adds up, as far as this zone has it.
+// Each key that some sum adds up, as far as this zone has it.
 void ReportRun::AddToTotals(CReportZone& zone, const PrintedZone& printed) {
-  std::set<std::wstring> keys;
-  for (int i = 0; i < m_report.GetReportZoneCount(); ++i) {
-    const CReportZone& other = *m_report.GetRootElement()->GetReportDocument()->GetReportZoneAt(i);
-    for (int j = 0; j < other.GetSumValueHolderKeyCount(); ++j) keys.insert(other.GetSumValueHolderKeyAt(j));
-  }
   const FormulaInput input(zone, printed);
-  for (const std::wstring& key : keys) {
+  for (const std::wstring& key : m_sumKeys) {
     bool isKnown = false;
     m_totals[key] += input.NumberOf(key, isKnown);
   }

@@ -34,7 +34,8 @@ struct PrintedZone {
 };
 
 /// Runs a report over its data: each zone once for each of its rows, with all formulas, sums and conditions, in place of
-/// a layout component. Sums are those of footer zones, over all rows that were printed before.
+/// a layout component. A sum of a footer zone is over all rows that were printed before, one of another zone runs on from
+/// row to row.
 class ReportRun {
  public:
   /// @param dataFile a `data.json`, which names its report
@@ -48,8 +49,9 @@ class ReportRun {
   std::vector<PrintedZone> Print();
 
  private:
+  CReportZone& Zone(int index) const;
   PrintedZone PrintZone(CReportZone& zone);
-  void ComputeSums(CReportZone& zone, PrintedZone& printed);
+  void ComputeSums(const CReportZone& zone, PrintedZone& printed);
   void ComputeFormulas(CReportZone& zone, PrintedZone& printed);
   void AddToTotals(CReportZone& zone, const PrintedZone& printed);
   void CollectUnowned();
@@ -57,8 +59,10 @@ class ReportRun {
   ReportData m_data;
   RowSupplier m_supplier;
   CReportValueHolders m_report;
-  std::map<std::wstring, double> m_totals;           // of each key that a sum adds up
+  std::set<std::wstring> m_sumKeys;                  // of all sums of the report
+  std::map<std::wstring, double> m_totals;           // of each of these keys
   std::set<CFormulaValueHolder*> m_definedFormulas;  // owned: no zone does
+  std::set<CFontCharMetricsInfo*> m_characters;      // owned: no font does
 };
 
 }  // namespace supplier

@@ -29,7 +29,7 @@ CDoubleElement* RowValue::GetValueAsDouble() {
 
 RowSupplier::RowSupplier(const ReportData& data) { m_source.global = &data.global; }
 
-void RowSupplier::OfferTo(CReportValueHolders& report) {
+void RowSupplier::OfferTo(CReportValueHolders& report, const std::set<std::wstring>& sumKeys) {
   for (int i = 0; i < report.GetReportZoneCount(); ++i) {
     CReportZone& zone = *report.GetRootElement()->GetReportDocument()->GetReportZoneAt(i);
     for (int j = 0; j < report.GetReportZoneValueHolderCount(i); ++j) {
@@ -42,11 +42,12 @@ void RowSupplier::OfferTo(CReportValueHolders& report) {
     for (int j = 0; j < report.GetReportZoneFormulaValueHolderKeyCount(i); ++j) {
       Offer(zone, report.GetReportZoneFormulaValueHolderKeyAt(i, j));
     }
+    for (const std::wstring& key : sumKeys) Offer(zone, key);
   }
 }
 
-void RowSupplier::Offer(CReportZone& zone, const wchar_t* key) {
-  if (zone.GetAvailableValueHolder(key) != nullptr) return;
+void RowSupplier::Offer(CReportZone& zone, const std::wstring& key) {
+  if (zone.GetAvailableValueHolder(key.c_str()) != nullptr) return;
   m_values.push_back(std::make_unique<RowValue>(m_source, key));
   zone.AddAvailableValueHolder(m_values.back().get());
 }

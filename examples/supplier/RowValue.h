@@ -4,6 +4,8 @@
 #include "ZEBReportDocument.h"
 
 #include <memory>
+#include <set>
+#include <string>
 #include <vector>
 
 namespace supplier {
@@ -44,12 +46,13 @@ class RowSupplier {
   explicit RowSupplier(const ReportData& data);
 
   /// Registers the objects with the zones of a loaded report.
-  void OfferTo(CReportValueHolders& report);
+  /// @param sumKeys what its sums add up, which any zone may have in its rows
+  void OfferTo(CReportValueHolders& report, const std::set<std::wstring>& sumKeys);
   /// The row that the values come from from now on.
   void SetRow(const Row& row) { m_source.row = &row; }
 
  private:
-  void Offer(CReportZone& zone, const wchar_t* key);
+  void Offer(CReportZone& zone, const std::wstring& key);
 
   RowSource m_source;
   std::vector<std::unique_ptr<RowValue>> m_values;

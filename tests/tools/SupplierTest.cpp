@@ -1,4 +1,4 @@
-// The data supplier of the examples: what it computes of the invoice, against numbers that were worked out by hand.
+// The data supplier of the examples: what it computes of the samples, against numbers that were worked out by hand.
 
 #include "ReportRun.h"
 #include "Utf8.h"
@@ -22,6 +22,10 @@ using supplier::PrintedZone;
 const std::filesystem::path kInvoice = std::filesystem::path(ZEB_EXAMPLES) / "invoice" / "data.json";
 
 std::vector<PrintedZone> PrintInvoice() { return supplier::ReportRun(kInvoice, ZEB_SHARE).Print(); }
+
+std::vector<PrintedZone> PrintSample(const char* sample) {
+  return supplier::ReportRun(std::filesystem::path(ZEB_EXAMPLES) / sample / "data.json", ZEB_SHARE).Print();
+}
 
 struct ExpectedPosition {
   double betrag;   // FX.Betrag, two decimals
@@ -190,6 +194,40 @@ TEST(Supplier, EvaluatesTheConditionsOfTheOtherZones) {
   ASSERT_EQ(zones[44].conditions.size(), 1U);
   EXPECT_FALSE(IsVisible(zones[44], L"Steuerschuldnerschaft des Leistungsempfängers (§ 13b UStG)."))
       << "the rate is 19";
+}
+
+// A running sum has its own row in it: 0 - 184.30 = -184.30, then -184.30 - 96.45 = -280.75. Over all rows the column
+// Soll adds up to 9922.97, Haben to 19225.89.
+//   running sum at the end  19225.89 - 9922.97            = 9302.92
+//   average of a day        19225.89 / 30 = 640.863       -> 640.86
+//   balance                 12480.35 + 19225.89 - 9922.97 = 21783.27, in a table cell
+TEST(Supplier, ComputesRunningSumsAndThoseOfTheFooterOfTheStatement) {
+  const std::vector<PrintedZone> zones = PrintSample("statement");
+  ASSERT_EQ(zones.size(), 49U);
+  EXPECT_DOUBLE_EQ(Printed(zones[2], L"SU.Saldo"), -184.30);
+  EXPECT_DOUBLE_EQ(Printed(zones[3], L"SU.Saldo"), -280.75);
+  EXPECT_DOUBLE_EQ(Printed(zones[46], L"SU.Saldo"), 9302.92);
+  const PrintedZone& footer = zones[47];
+  EXPECT_EQ(footer.name, L"Saldo");
+  EXPECT_DOUBLE_EQ(Printed(footer, L"SU.Soll"), 9922.97);
+  EXPECT_DOUBLE_EQ(Printed(footer, L"SU.Haben"), 19225.89);
+  EXPECT_DOUBLE_EQ(Printed(footer, L"SU.HabenSeite"), 19225.89);
+  EXPECT_DOUBLE_EQ(Printed(footer, L"FX.Tagesschnitt"), 640.86);
+  EXPECT_DOUBLE_EQ(Printed(footer, L"FX.Endsaldo"), 21783.27);
+}
+
+// Ordered 200 + 400 + 100 + 12 + 6 + 25 + 40 + 150 = 933, delivered 200 + 400 + 80 + 12 + 4 + 25 + 40 + 120 = 881.
+TEST(Supplier, ComputesTheSumInATableCellOfTheDeliveryNote) {
+  const std::vector<PrintedZone> zones = PrintSample("legacy");
+  ASSERT_EQ(zones.size(), 10U);
+  EXPECT_DOUBLE_EQ(Printed(zones[1], L"SU.Laufend"), 200);
+  EXPECT_DOUBLE_EQ(Printed(zones[3], L"SU.Laufend"), 680);
+  EXPECT_DOUBLE_EQ(Printed(zones[3], L"FX.Rest"), 20);
+  EXPECT_TRUE(zones[1].results.at(L"FX.Rest").isEmpty);
+  EXPECT_DOUBLE_EQ(Printed(zones[1], L"FX.Defekt"), 2);
+  EXPECT_DOUBLE_EQ(Printed(zones[9], L"SU.Bestellt"), 933);
+  EXPECT_DOUBLE_EQ(Printed(zones[9], L"SU.Geliefert"), 881);
+  EXPECT_DOUBLE_EQ(Printed(zones[9], L"FX.Komplett"), 0) << "less is delivered than ordered";
 }
 
 TEST(Supplier, GivesTheSameAtASecondRun) {
