@@ -16,6 +16,11 @@ namespace {
 
 constexpr int kDefaultChunk = 65535;
 
+unsigned int LittleEndianWord(const unsigned char* bytes) {
+  return bytes[0] | static_cast<unsigned int>(bytes[1]) << 8U | static_cast<unsigned int>(bytes[2]) << 16U |
+         static_cast<unsigned int>(bytes[3]) << 24U;
+}
+
 [[noreturn]] void ThrowNoMoreMemory() {
   CKXExceptionHandler::GetInstance().ThrowException(zeb::ErrorKeys::NoMoreMemoryLeft);
   throw std::bad_alloc();
@@ -46,8 +51,10 @@ CFontData& CFontData::operator=(const CFontData& other) = default;
 
 void CFontData::Resize(long long chunks) {
   const long long capacity = m_iCapacity + chunks * m_iChunkSize;
-  void* const buffer =
-      capacity <= INT_MAX ? std::realloc(m_pBuffer, static_cast<std::size_t>(capacity)) : nullptr;
+  if (capacity > INT_MAX) ThrowNoMoreMemory();
+  const auto size = static_cast<std::size_t>(capacity);
+  // A first block that the system gives zeroed need not be touched before it is used.
+  void* const buffer = m_pBuffer == nullptr ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
   if (buffer == nullptr) ThrowNoMoreMemory();
   m_pBuffer = static_cast<unsigned char*>(buffer);
   m_iCapacity = static_cast<int>(capacity);
@@ -56,7 +63,8 @@ void CFontData::Resize(long long chunks) {
 void CFontData::Grow(long long chunks) {
   const int before = m_iCapacity;
   Resize(chunks);
-  std::fill(m_pBuffer + before, m_pBuffer + m_iCapacity, static_cast<unsigned char>(0));
+  // The first block is zero already.
+  if (before > 0) std::fill(m_pBuffer + before, m_pBuffer + m_iCapacity, static_cast<unsigned char>(0));
 }
 
 void CFontData::ReAllocFontData(int count) {
@@ -143,8 +151,13 @@ void CFontData::CopyOut(int pos, int count, unsigned char* target) const {
   const long long end = static_cast<long long>(pos) + count;
   const long long begin = std::max(pos, 0);
   const long long there = std::min<long long>(end, m_iCapacity);
-  std::fill_n(target, count, static_cast<unsigned char>(0));
-  if (begin < there) std::copy(m_pBuffer + begin, m_pBuffer + there, target + (begin - pos));
+  if (begin >= there) {
+    std::fill_n(target, count, static_cast<unsigned char>(0));
+    return;
+  }
+  std::fill_n(target, begin - pos, static_cast<unsigned char>(0));
+  std::copy(m_pBuffer + begin, m_pBuffer + there, target + (begin - pos));
+  std::fill_n(target + (there - pos), end - there, static_cast<unsigned char>(0));
 }
 
 unsigned int CFontData::BigEndianAt(long long pos, int count) const {
@@ -213,6 +226,13 @@ void CFontData::WriteBigEndianAtPos(int pos, unsigned int value, int count) {
 
 void CFontData::CopyBytesAtPos(int pos, int count, CFontData* target) {
   if (count <= 0) return;
+  if (target != this && target->m_iPos >= 0) {
+    target->MakeRoomAtCursor(count);
+    CopyOut(pos, count, target->m_pBuffer + target->m_iPos);
+    target->MoveCursor(static_cast<long long>(target->m_iPos) + count);
+    target->m_iLength += count;
+    return;
+  }
   // A copy in between, since writing may move this very block.
   std::vector<unsigned char> bytes(static_cast<std::size_t>(count));
   CopyOut(pos, count, bytes.data());
@@ -234,7 +254,11 @@ unsigned int CFontData::GetLongCheckSum(int pos, int count) const {
   const long long raised = static_cast<long long>(std::max(count, 0)) + std::max(count, 0) % 4;
   const long long end = std::min<long long>(pos + (raised + 3) / 4 * 4, m_iCapacity);
   unsigned int sum = 0;
-  for (long long at = std::max(pos, 0); at < end; ++at) {
+  long long at = std::max(pos, 0);
+  if (at == pos) {
+    for (; at + 4 <= end; at += 4) sum += LittleEndianWord(m_pBuffer + at);
+  }
+  for (; at < end; ++at) {
     sum += static_cast<unsigned int>(m_pBuffer[at]) << static_cast<unsigned>((at - pos) % 4 * 8);
   }
   return sum;

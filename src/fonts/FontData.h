@@ -115,6 +115,7 @@ class ZEB_EXPORT CFontData {
 
  private:
   friend class zeb::TrueTypeReader;
+  friend class CFontMetrics;
 
   void Resize(long long chunks);
   void Grow(long long chunks);

@@ -312,8 +312,9 @@ class ZEB_EXPORT CFontMetrics {
   std::array<std::wstring, 256> m_rgstrCharNames;
   bool m_bUnicodeFont = false;
   CharColl m_CharColl = static_cast<CharColl>(-1);
-  CFontData* m_pSubsetData = nullptr;  // owned, shared by copies
-  std::map<unsigned short, unsigned short> m_CodeToGlyph;
+  CFontData* m_pSubsetData = nullptr;             // owned, shared by copies
+  std::vector<unsigned short> m_rgusGlyphOfCode;  // indexed by code; empty as long as no code has a glyph
+  std::vector<bool> m_rgbHasGlyph;                // likewise
   std::map<unsigned short, unsigned short> m_GlyphToNewIndex = {{0, 0}, {1, 1}, {2, 2}};
   std::map<unsigned short, unsigned short> m_NewIndexToGlyph = {{0, 0}, {1, 1}, {2, 2}};
   unsigned short m_usNextNewIndex = 3;

@@ -10,6 +10,7 @@ namespace {
 
 /// First code of the page in which the characters of a Windows symbol font lie.
 constexpr int kSymbolPage = 0xF000;
+constexpr std::size_t kCodeCount = 0x10000;
 
 int ToInt(float value) {
   // Only values that no font has reach the limits.
@@ -39,15 +40,20 @@ int CFontMetrics::ConvertTTToPDF(int value) const {
 }
 
 void CFontMetrics::AddUnicodeToGlyphIndex(unsigned short code, unsigned short glyph) {
-  // Readers come with ascending codes.
-  m_CodeToGlyph.emplace_hint(m_CodeToGlyph.end(), code, glyph);
+  if (m_rgusGlyphOfCode.empty()) {
+    m_rgusGlyphOfCode.resize(kCodeCount);
+    m_rgbHasGlyph.resize(kCodeCount);
+  }
+  if (m_rgbHasGlyph[code]) return;
+  m_rgbHasGlyph[code] = true;
+  m_rgusGlyphOfCode[code] = glyph;
 }
 
 bool CFontMetrics::FindGlyphIndex(unsigned short code, unsigned short& glyph) const {
-  const int wanted = m_bSymbolFont && code < kSymbolPage ? code + kSymbolPage : code;
-  const auto found = m_CodeToGlyph.find(static_cast<unsigned short>(wanted));
-  if (found == m_CodeToGlyph.end()) return false;
-  glyph = found->second;
+  const int sum = m_bSymbolFont && code < kSymbolPage ? code + kSymbolPage : code;
+  const auto wanted = static_cast<unsigned short>(sum);
+  if (m_rgbHasGlyph.empty() || !m_rgbHasGlyph[wanted]) return false;
+  glyph = m_rgusGlyphOfCode[wanted];
   return true;
 }
 

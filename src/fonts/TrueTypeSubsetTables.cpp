@@ -5,6 +5,7 @@
 #include "fonts/TrueTypeTables.h"
 
 #include <algorithm>
+#include <climits>
 #include <vector>
 
 // The tables of a subset. The names of fields are those of the OpenType specification.
@@ -53,6 +54,22 @@ void CopyUnchanged(CFontData& source, const CTrueTypeDirEnt* entry, CFontData& s
 
 unsigned int OffsetOf(const CTrueTypeTabHMtx& hmtx, const CTrueTypeTabLoca& loca, int glyph) {
   return glyph < hmtx.GetEntryCount() ? hmtx.GetEntryAt(glyph)->GetGlyphOffset() : loca.endOffset;
+}
+
+/// The bytes of a glyph in the source.
+struct GlyphBytes {
+  int offset = 0;
+  int length = 0;
+};
+
+/// A glyph that the font lacks has no bytes.
+GlyphBytes FindGlyph(const CFontData& source, const CTrueTypeDirEnt& glyf, const CTrueTypeTabHMtx& hmtx,
+                     const CTrueTypeTabLoca& loca, int glyph) {
+  if (glyph >= hmtx.GetEntryCount()) return {};
+  const long long offset = static_cast<long long>(glyf.GetOffset()) + OffsetOf(hmtx, loca, glyph);
+  const long long end = static_cast<long long>(glyf.GetOffset()) + OffsetOf(hmtx, loca, glyph + 1);
+  const int length = BytesThere(source, offset, std::max(end - offset, 0LL));
+  return {length > 0 ? static_cast<int>(offset) : 0, length};
 }
 
 }  // namespace
@@ -140,21 +157,26 @@ void CFontMetrics::CreateGlyf(CFontData* source, CTrueTypeDirEnt* entry, CTrueTy
     if (newIndex < count) glyphs[newIndex] = glyph;
   }
 
+  std::vector<GlyphBytes> places;
+  places.reserve(glyphs.size());
+  long long room = kBytesBehindGlyf;
+  for (const unsigned short glyph : glyphs) {
+    places.push_back(FindGlyph(*source, *entry, *hmtx, *loca, glyph));
+    room += places.back().length;
+  }
+
   m_pSubsetData->CreatePad4();
   const int start = m_pSubsetData->Tell();
+  // Room for all at once, so that the content moves once.
+  if (room <= INT_MAX - start) m_pSubsetData->ReAllocFontDataPos(start, static_cast<int>(room));
   int greatestEnd = 0;
-  for (int i = 0; i < count; ++i) {
-    const int glyph = glyphs[static_cast<std::size_t>(i)];
+  int locaPos = m_iLocaPos;
+  for (const GlyphBytes& place : places) {
     const int pos = m_pSubsetData->Tell() - start;
-    int length = 0;
-    if (glyph < hmtx->GetEntryCount()) {
-      const long long offset = static_cast<long long>(entry->GetOffset()) + OffsetOf(*hmtx, *loca, glyph);
-      const long long end = static_cast<long long>(entry->GetOffset()) + OffsetOf(*hmtx, *loca, glyph + 1);
-      length = BytesThere(*source, offset, std::max(end - offset, 0LL));
-      source->CopyBytesAtPos(static_cast<int>(offset), length, m_pSubsetData);
-    }
-    m_pSubsetData->WriteUIntAtPos(m_iLocaPos + 4 * i, static_cast<unsigned int>(pos));
-    greatestEnd = std::max(greatestEnd, pos + length);
+    source->CopyBytesAtPos(place.offset, place.length, m_pSubsetData);
+    m_pSubsetData->WriteUIntAtPos(locaPos, static_cast<unsigned int>(pos));
+    locaPos += 4;
+    greatestEnd = std::max(greatestEnd, pos + place.length);
   }
   EnterTable(*m_pSubsetData, m_rgiDirectorySlots[SlotGlyf], start, m_pSubsetData->Tell() - start);
   // Fixed behaviour: twelve bytes follow that no table holds.

@@ -388,6 +388,68 @@ TEST(Subset, FixedAGlyphUsedAfterASubsetTakesTheNumberOfAComponent) {
   EXPECT_EQ(subset.Glyph(4), TrueTypeBuilder::Box(0, 0, 603, 100));
 }
 
+TEST(Subset, ComponentsAreNumberedInTheOrderOfTheGlyphsThatNeedThem) {
+  // 6 is used first, but 5 comes first in the font.
+  TrueTypeFont font = ReadForSubset(
+      FontOf({Box(603), Composite({3}), Composite({8}), Composite({7, 8}), Composite({4}), Box(608)}));
+  font.Metrics().MapChar(CodeOf(6));
+  font.Metrics().MapChar(CodeOf(5));
+  const Subset subset(font);
+  EXPECT_EQ(Components(subset.Glyph(4)), Numbers{5}) << "glyph 8, from glyph 5";
+  EXPECT_EQ(Components(subset.Glyph(3)), (Numbers{6, 5})) << "glyphs 7 and 8, from glyph 6";
+  EXPECT_EQ(Components(subset.Glyph(6)), Numbers{7}) << "glyph 4, from glyph 7";
+  EXPECT_EQ(Components(subset.Glyph(7)), Numbers{8}) << "glyph 3, from glyph 4";
+  EXPECT_EQ(subset.Width(8), 603U);
+}
+
+TEST(Subset, AGlyphWithoutContoursIsSimple) {
+  FontBytes outline;
+  outline.S16(0).Zeros(8).U16(0).U16(4).Zeros(4);  // a composite of glyph 4, were it one
+  TrueTypeFont font = ReadForSubset(FontOf({{500, 0, outline.Bytes()}, Box()}));
+  font.Metrics().MapChar(CodeOf(3));
+  const Subset subset(font);
+  EXPECT_EQ(subset.GlyphCount(), 4U);
+  EXPECT_EQ(subset.Glyph(3), outline.Bytes());
+}
+
+TEST(Subset, GlyphsFollowEachOtherWithoutPadding) {
+  FontBytes outline;
+  outline.S16(0).Zeros(9);
+  TrueTypeBuilder builder = FontOf({{500, 0, outline.Bytes()}, Box(), {500, 0, outline.Bytes()}});
+  builder.longLoca = true;
+  TrueTypeFont font = ReadForSubset(builder);
+  for (const unsigned glyph : {3U, 4U, 5U}) font.Metrics().MapChar(CodeOf(glyph));
+  const Subset subset(font);
+  const std::vector<std::size_t> places = {subset.Loca(3), subset.Loca(4), subset.Loca(5), subset.Loca(6)};
+  EXPECT_EQ(places, (std::vector<std::size_t>{kBoxLength, kBoxLength + 11, 2 * kBoxLength + 11,
+                                              2 * kBoxLength + 22}));
+  EXPECT_EQ(subset.Table("glyf").length, 2 * kBoxLength + 22);
+}
+
+TEST(Subset, KeepsTheOtherFieldsOfTheHorizontalHeaderAndTheProfile) {
+  const TrueTypeBuilder builder;
+  TrueTypeFont font = ReadForSubset(builder);
+  const Subset subset(font);
+  const auto written = [&](const char* tag) {
+    const auto begin = subset.All().begin() + static_cast<std::ptrdiff_t>(subset.Table(tag).offset);
+    return Bytes(begin, begin + static_cast<std::ptrdiff_t>(subset.Table(tag).length));
+  };
+  EXPECT_EQ(written("hhea"), FontBytes().Append(builder.Tables().at("hhea")).PatchU16(34, 3).Bytes());
+  EXPECT_EQ(written("maxp"), FontBytes().Append(builder.Tables().at("maxp")).PatchU16(4, 3).Bytes());
+}
+
+TEST(Subset, IsNotMadeOfAFontWithATableThatReachesBehindTheFile) {
+  TrueTypeBuilder builder;
+  builder.Replace("prep", {1, 2, 3, 4});
+  Bytes bytes = builder.Build();
+  const std::size_t entry = FindTable(bytes, "prep").directoryEntry;
+  for (std::size_t at = entry + 12; at < entry + 16; ++at) bytes[at] = 0x7F;
+  TrueTypeFont font(bytes, {.unicode = true});
+  EXPECT_EQ(font.Failure(), L"IncorrectTrueTypeFile");
+  font.Metrics().CreateSubsetFont();
+  EXPECT_EQ(Contents(*font.Metrics().GetFontData()), bytes) << "there is no parsed font";
+}
+
 TEST(Subset, IsGivenOnlyForTwoByteCodes) {
   TrueTypeFont font{TrueTypeBuilder()};
   const CFontData* source = font.Metrics().GetFontData();

@@ -1,6 +1,7 @@
 #include "support/TrueTypeBuilder.h"
 
 #include <algorithm>
+#include <bit>
 #include <stdexcept>
 
 namespace zebtest {
@@ -236,11 +237,10 @@ Bytes TrueTypeBuilder::Format4(std::vector<Segment> segments, const std::vector<
   segments.push_back({0xFFFF, 0xFFFF, 1, 0});
   const auto count = static_cast<unsigned>(segments.size());
   FontBytes out;
-  out.U16(4)
-      .U16(16 + 8 * count + 2 * static_cast<unsigned>(glyphIds.size()))
-      .U16(0)
-      .U16(2 * count)
-      .U16s({2, 0, 0});
+  out.U16(4).U16(16 + 8 * count + 2 * static_cast<unsigned>(glyphIds.size())).U16(0).U16(2 * count);
+  // Fields for a binary search: the greatest power of two, its exponent and what is left over.
+  const unsigned power = std::bit_floor(count);
+  out.U16s({2 * power, static_cast<unsigned>(std::bit_width(power)) - 1, 2 * (count - power)});
   for (const Segment& segment : segments) out.U16(segment.end);
   out.U16(0);
   for (const Segment& segment : segments) out.U16(segment.start);
