@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <ctime>
 #include <fstream>
 #include <memory>
 
@@ -29,6 +30,8 @@ double PeakMegabytes() {
   }
   return 0;
 }
+
+double ProcessorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 double RunAlone(const std::string& arguments) {
   const std::string command = fs::read_symlink("/proc/self/exe").string() + " " + arguments;

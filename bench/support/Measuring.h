@@ -22,6 +22,9 @@ class ScratchFolder {
 /// The most memory that this process ever had resident, in MB; 0 where the system does not tell.
 double PeakMegabytes();
 
+/// Seconds of the processor that this process has used. What else the machine does plays no part.
+double ProcessorSeconds();
+
 /// Starts this program once more with `arguments` and gives the number that it prints: how a measurement gets a process
 /// of its own, so that none sees the memory of another.
 double RunAlone(const std::string& arguments);
