@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <string_view>
+#include <string>
 
 class CTrueTypeCMap4;
 class CTrueTypeFile;
@@ -68,7 +68,7 @@ class TrueTypeReader {
 
   CTrueTypeFontMetrics& m_metrics;
   TrueTypeRequest m_request;
-  std::wstring_view m_encoding;
+  std::wstring m_encoding;  // a copy: the one that is given may be that of the metrics
   std::uint16_t m_usLanguage;
   ByteReader m_bytes;
   std::uint32_t m_uFontOffset = 0;

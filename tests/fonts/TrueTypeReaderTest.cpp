@@ -262,6 +262,16 @@ TEST(TrueTypeReader, AnyOtherEncodingSetsNoSchemeFixed) {
   }
 }
 
+TEST(TrueTypeReader, TheEncodingOfTheMetricsThemselvesMayBeAskedFor) {
+  TrueTypeFont font(TrueTypeBuilder(), kUnicode);
+  Asked asked;
+  asked.encoding = font.Metrics().GetEncoding();
+  font.Read(TrueTypeBuilder().Build(), asked);
+  // "cid" is no encoding of single bytes, so it sets none.
+  EXPECT_STREQ(font.Metrics().GetEncoding(), L"winansi1252");
+  EXPECT_STREQ(font.Metrics().GetEncodingScheme(), L"Identity-H");
+}
+
 TrueTypeBuilder SymbolFont() {
   TrueTypeBuilder font;
   font.firstCharIndex = 0xF020;
