@@ -3,25 +3,26 @@
 #include "fonts/GlobalFontHandler.h"
 #include "model/Text.h"
 
-#include <string>
-
-namespace {
-
-// The name may be the text's own: it is copied before the text takes it.
-void SetName(CText& text, const wchar_t* name) {
-  if (name != nullptr) text.SetFontName(std::wstring(name).c_str());
-}
-
-}  // namespace
-
 namespace zeb {
 
 void LocalizeFontName(CGlobalFontHandler& fontHandler, CText& text) {
-  SetName(text, fontHandler.GetLocalizedFontName(text.GetFontName(), text.GetBold(), text.GetItalic()));
+  const wchar_t* const name =
+      fontHandler.GetLocalizedFontName(text.GetFontName(), text.GetBold(), text.GetItalic());
+  if (name != nullptr) text.SetFontName(name);
 }
 
-void MakeFontNameUnique(CGlobalFontHandler& fontHandler, CText& text) {
-  SetName(text, fontHandler.GetUniqueFontName(text.GetFontName(), text.GetBold(), text.GetItalic()));
+void UniqueFontNames::Apply(CText& text) {
+  const std::wstring name = text.GetFontName();
+  const Style style(text.GetBold(), text.GetItalic());
+  const auto known = m_WithoutAny.find(name);
+  if (known != m_WithoutAny.end() && known->second.contains(style)) return;
+  if (const wchar_t* unique = m_FontHandler.GetUniqueFontName(name.c_str(), style.first, style.second)) {
+    text.SetFontName(unique);
+    // An answer for one style of a name holds for all from then on.
+    m_WithoutAny.erase(name);
+  } else {
+    m_WithoutAny[name].insert(style);
+  }
 }
 
 }  // namespace zeb

@@ -16,6 +16,7 @@
 #include "model/ValueHolder.h"
 #include "placement/PlaceableRelation.h"
 
+#include <optional>
 #include <vector>
 
 // A page's record holds its objects inline, and behind them their relations.
@@ -86,6 +87,8 @@ bool CLayoutPage::Save(zebxmln::CXMLNode* node, CIDManager& ids) {
   SaveRect(writer, m_pPaperRect, ids);
   SaveRect(writer, m_pBorderRect, ids);
   std::vector<CPlaceableRelation*> relations;
+  std::optional<zeb::UniqueFontNames> fontNames;
+  if (m_pReportLayout != nullptr) fontNames.emplace(*m_pReportLayout->GetFontHandler());
   for (CPlaceable* object : m_rgpLayoutContent) {
     if (object == nullptr) continue;
     if (auto* cell = dynamic_cast<CTableCell*>(object)) {
@@ -93,7 +96,7 @@ bool CLayoutPage::Save(zebxmln::CXMLNode* node, CIDManager& ids) {
       continue;
     }
     if (auto* text = dynamic_cast<CText*>(object)) {
-      if (m_pReportLayout != nullptr) zeb::MakeFontNameUnique(*m_pReportLayout->GetFontHandler(), *text);
+      if (fontNames) fontNames->Apply(*text);
     } else if (dynamic_cast<CPicture*>(object) == nullptr && dynamic_cast<CRectangle*>(object) == nullptr &&
                dynamic_cast<CLine*>(object) == nullptr) {
       continue;

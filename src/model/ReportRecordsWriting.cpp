@@ -20,7 +20,7 @@ namespace {
 class RecordsWriter {
  public:
   RecordsWriter(zebxmln::CXMLNode* root, CReportDocument& document, CIDManager& ids)
-      : m_pRoot(root), m_Document(document), m_IDs(ids) {}
+      : m_pRoot(root), m_Document(document), m_IDs(ids), m_FontNames(*document.GetFontHandler()) {}
 
   void Write() {
     ForEachZone([this](CReportZone& zone) { zone.Save(m_pRoot, m_IDs); });
@@ -78,7 +78,7 @@ class RecordsWriter {
 
   void WriteText(CText* text) {
     if (text == nullptr) return;
-    MakeFontNameUnique(*m_Document.GetFontHandler(), *text);
+    m_FontNames.Apply(*text);
     WriteObject(text);
   }
 
@@ -88,9 +88,10 @@ class RecordsWriter {
     if (CPlaceableRelation* relation = object->GetPlaceableRelation()) m_rgpRelations.push_back(relation);
   }
 
-  zebxmln::CXMLNode* m_pRoot;                       // observer
-  CReportDocument& m_Document;                      // observer
-  CIDManager& m_IDs;                                // observer
+  zebxmln::CXMLNode* m_pRoot;   // observer
+  CReportDocument& m_Document;  // observer
+  CIDManager& m_IDs;            // observer
+  UniqueFontNames m_FontNames;
   std::vector<CPlaceableRelation*> m_rgpRelations;  // observer; in the order of their objects' records
 };
 

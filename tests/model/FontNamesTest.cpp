@@ -122,7 +122,7 @@ TEST(FontNames, ALoadedNameIsExchangedInMemory) {
   text.SetFontName(L"Sample");
   zeb::LocalizeFontName(handler, text);
   EXPECT_STREQ(text.GetFontName(), L"Muster");
-  zeb::MakeFontNameUnique(handler, text);
+  zeb::UniqueFontNames(handler).Apply(text);
   EXPECT_STREQ(text.GetFontName(), L"Sample");
 }
 
@@ -132,9 +132,49 @@ TEST(FontNames, ANameWithoutAnotherStays) {
   text.SetFontName(L"No such font at all");
   for (int i = 0; i < 2; ++i) {
     zeb::LocalizeFontName(handler, text);
-    zeb::MakeFontNameUnique(handler, text);
+    zeb::UniqueFontNames(handler).Apply(text);
     EXPECT_STREQ(text.GetFontName(), L"No such font at all");
   }
+}
+
+CText TextOf(const wchar_t* font, int bold = 400) {
+  CText text;
+  text.SetFontName(font);
+  text.SetBold(bold);
+  return text;
+}
+
+TEST(FontNames, ASavingAsksOnceForANameThatNobodyKnows) {
+  const zebtest::ScopedFontPool pool;
+  CGlobalFontHandler handler;
+  zeb::UniqueFontNames saving(handler);
+  CText first = TextOf(L"Muster");
+  saving.Apply(first);
+  PoolSample();
+  CText second = TextOf(L"Muster");
+  saving.Apply(second);
+  EXPECT_STREQ(second.GetFontName(), L"Muster");
+  zeb::UniqueFontNames(handler).Apply(second);
+  EXPECT_STREQ(second.GetFontName(), L"Sample") << "the next saving asks again";
+}
+
+TEST(FontNames, FixedAnAnswerForOneStyleHoldsForAllInASaving) {
+  const zebtest::ScopedFontPool pool;
+  CGlobalFontHandler handler;
+  CFontMetrics& metrics = AddSample(handler);
+  metrics.SetFontFamilyName(L"MUSTER");
+  metrics.SetBold(700);
+  metrics.AddLocalizedFontName(L"muster");
+  zeb::UniqueFontNames saving(handler);
+  CText normal = TextOf(L"MUSTER");
+  saving.Apply(normal);
+  EXPECT_STREQ(normal.GetFontName(), L"MUSTER");
+  CText bold = TextOf(L"MUSTER", 700);
+  saving.Apply(bold);
+  EXPECT_STREQ(bold.GetFontName(), L"Sample");
+  CText again = TextOf(L"MUSTER");
+  saving.Apply(again);
+  EXPECT_STREQ(again.GetFontName(), L"Sample");
 }
 
 TEST(FontNames, TheStyleOfTheTextCounts) {
