@@ -4,6 +4,7 @@
 #include "fonts/ByteReader.h"
 #include "fonts/FontData.h"
 #include "fonts/TrueTypeFontMetrics.h"
+#include "fonts/TrueTypeReader.h"
 #include "fonts/TrueTypeStatus.h"
 
 #include <algorithm>
@@ -27,7 +28,8 @@ bool ReadFont(CTrueTypeFontMetrics& metrics, std::vector<std::uint8_t> bytes) {
   auto* const data = new CFontData(false);
   data->AddFontMemData(bytes.data(), static_cast<int>(bytes.size()));
   metrics.SetFontData(data, true);
-  return metrics.ReadTrueTypeFont(nullptr, nullptr, nullptr, true, true, 400, false) == zeb::kTrueTypeDone;
+  zeb::TrueTypeReader reader(metrics, {.unicode = true, .reuseData = true});
+  return reader.Read() == zeb::kTrueTypeDone;
 }
 
 std::uint16_t NumberAt(const std::vector<unsigned char>& font, std::size_t place, std::size_t at) {
