@@ -31,14 +31,16 @@ class ZEB_EXPORT CReportRootElement {
   /// Afterwards the model is of the current version, whatever was read.
   /// @param reportFile null to load no report file
   /// @param layoutFile null to load no layout file
-  /// @throws CKXXMLException with number and message of the XML facility: a file is missing or not
-  /// well-formed. What
-  ///   was built so far stays.
+  /// @throws CKXXMLException with number and message of the XML facility: a file is missing or not well-formed
+  /// @throws CKXException of the key "FontPoolIncomplete": the program of a font is nowhere; "IncorrectTrueTypeFile" or
+  ///   any other key of reading a font or a picture. What was built so far stays, after a failure of either kind
   void LoadReport(const wchar_t* reportFile, const wchar_t* layoutFile);
   /// Loads a report file and, if asked, the layout file that it names, from the layout path.
+  /// @throws as LoadReport
   void LoadReportDocument(const wchar_t* reportFile, bool loadLayout);
   /// Loads a layout file. With a document and a layout present, the present layout is deleted first.
   // Fixed behaviour: without a document the earlier layout is overwritten undeleted.
+  /// @throws as LoadReport
   void LoadReportLayout(const wchar_t* layoutFile);
 
   /// Saves a report file, a layout file (which is written first), or both. Text objects hold the unique font

@@ -57,7 +57,7 @@ const wchar_t* CReportValueHolders::GetReportZoneInternalName(int zone) const {
   return Zone(zone).GetInternalReportZoneName();
 }
 
-int CReportValueHolders::GetReportZoneNr(const wchar_t* name) const {
+int CReportValueHolders::GetReportZoneNr(const wchar_t* name) {
   for (int i = 0; i < GetReportZoneCount(); ++i) {
     const CReportZone* zone = m_pReportDocument->GetReportZoneAt(i);
     if (zone != nullptr && std::wcscmp(zone->GetInternalReportZoneName(), name) == 0) return i;

@@ -27,7 +27,10 @@ class ZEB_EXPORT CReportValueHolders {
   /// @param reportFile path of the report file
   /// @param fontPoolPath folder of the font pool, for the whole process
   /// @param exceptionPath folder of the error catalogue, for the whole process
-  /// @throws CKXXMLException the file is missing or malformed; no question may then be asked before a load succeeds
+  /// @throws CKXXMLException the file is missing or malformed
+  /// @throws CKXException of the key "FontPoolIncomplete": the program of a font is nowhere; "IncorrectTrueTypeFile" or
+  ///   any other key of reading a font or a picture. After a failure of either kind no question may be asked before a
+  ///   load succeeds
   void LoadReport(const wchar_t* reportFile, const wchar_t* fontPoolPath, const wchar_t* exceptionPath);
   /// The report, for callers that need more; null before the first load. Owned by this object.
   CReportRootElement* GetRootElement() const;
@@ -36,7 +39,7 @@ class ZEB_EXPORT CReportValueHolders {
   int GetReportZoneCount() const;
   const wchar_t* GetReportZoneInternalName(int zone) const;
   /// The index of the first zone of exactly this internal name, -1 if there is none.
-  int GetReportZoneNr(const wchar_t* name) const;
+  int GetReportZoneNr(const wchar_t* name);
 
   /// The number of fixed texts of the zone, without those in table cells.
   int GetReportZoneTextCount(int zone) const;
@@ -73,7 +76,7 @@ class ZEB_EXPORT CReportValueHolders {
   /// Whether the value holder's number is printed in words; false past the end.
   bool GetReportZoneValueHolderNumberToText(int zone, int index) const;
 
-  /// The size, in points, of the first graphic of exactly this key among the zone's own value holders. Those in table
+  /// The size, in the caller's unit, of the first graphic of exactly this key among the zone's own value holders. Those in table
   /// cells do not count.
   /// @param width untouched if there is none
   /// @param height untouched if there is none

@@ -118,6 +118,13 @@ TEST_F(ReportValueHolders, StartsWithoutAReport) {
 TEST_F(ReportValueHolders, AskUnderTheirSignatures) {
   using Facade = CReportValueHolders;
   static_assert(std::is_same_v<decltype(&Facade::GetRootElement), CReportRootElement* (Facade::*)() const>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneCount), int (Facade::*)() const>);
+  static_assert(
+      std::is_same_v<decltype(&Facade::GetReportZoneInternalName), const wchar_t* (Facade::*)(int) const>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneNr), int (Facade::*)(const wchar_t*)>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneTextCount), int (Facade::*)(int) const>);
+  static_assert(
+      std::is_same_v<decltype(&Facade::GetReportZoneTextAt), const wchar_t* (Facade::*)(int, int) const>);
   static_assert(
       std::is_same_v<decltype(&Facade::GetReportZoneFormulaValueHolderKeyCount), int (Facade::*)(int) const>);
   static_assert(std::is_same_v<decltype(&Facade::GetReportZoneFormulaValueHolderKeyAt),
@@ -126,6 +133,13 @@ TEST_F(ReportValueHolders, AskUnderTheirSignatures) {
       std::is_same_v<decltype(&Facade::GetReportZoneOrderedElementCount), int (Facade::*)(int) const>);
   static_assert(std::is_same_v<decltype(&Facade::GetReportZoneOrderedElementAt),
                                const CReportOrderedElement& (Facade::*)(int, int)>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderCount), int (Facade::*)(int) const>);
+  using TextOfValueHolder = const wchar_t* (Facade::*)(int, int) const;
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderInternalNameAt), TextOfValueHolder>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderDynNameAt), TextOfValueHolder>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderFormulaNameAt), TextOfValueHolder>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderFormulaAt), TextOfValueHolder>);
+  static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderSumNameAt), TextOfValueHolder>);
   static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderFormulaOptionsAt),
                                int (Facade::*)(int, int) const>);
   static_assert(std::is_same_v<decltype(&Facade::GetReportZoneValueHolderNumberToText),
@@ -304,6 +318,17 @@ TEST_F(ReportValueHolders, FindTheKeysOfFormulasWhenLoading) {
   EXPECT_EQ(FormulaKeys(5), (Strings{L"PL.MwSt-Satz"}));
 }
 
+// A second search would append the sums of the footer zone again: SU.Netto and SU.Gewicht of zone 4.
+TEST_F(ReportValueHolders, FindTheKeysExactlyOnceInALoad) {
+  for (int load = 0; load < 2; ++load) {
+    LoadSample("invoice");
+    CReportDocument& document = *m_facade.GetRootElement()->GetReportDocument();
+    for (int i = 0; i < document.GetReportZoneCount(); ++i) {
+      EXPECT_EQ(document.GetReportZoneAt(i)->GetSumValueHolderKeyCount(), i == 4 ? 2 : 0) << "zone " << i;
+    }
+  }
+}
+
 TEST_F(ReportValueHolders, GiveTheOrderInItsNeutralForm) {
   LoadText(ReportOfOneZone("<TxID>2</TxID><VHID>3</VHID><LineID>4</LineID>",
                            ValueHolderRecord(3, "", "Menge") +
@@ -422,6 +447,27 @@ TEST_F(ReportValueHolders, StartCleanAfterAFailedLoad) {
   ASSERT_NE(m_facade.GetRootElement(), nullptr);
   EXPECT_EQ(m_facade.GetRootElement()->GetReportDocument(), nullptr);
   EXPECT_THROW(LoadText("<ReportRootElement><ReportDocument>"), CKXXMLException);
+  LoadSample("legacy");
+  EXPECT_EQ(m_facade.GetReportZoneCount(), 3);
+}
+
+// What reading a font raises is no failure of the XML facility, and passes through as it is.
+TEST_F(ReportValueHolders, LetAFailureOfAFontThrough) {
+  const auto load = [this] {
+    LoadText(
+        "<ReportRootElement><ReportDocument><VersionNr>2</VersionNr><FontInformation>"
+        "<BaseFont>No Such Face</BaseFont><Encoding>cid</Encoding><Flags>4</Flags><FontType>2</FontType>"
+        "</FontInformation></ReportDocument></ReportRootElement>");
+  };
+  EXPECT_EQ(zebtest::RaisedKey(load), L"FontPoolIncomplete");
+  try {
+    load();
+    FAIL() << "no font is called No Such Face";
+  } catch (const CKXException& exception) {
+    EXPECT_EQ(exception.GetErrorNr(), 4010);
+    EXPECT_EQ(dynamic_cast<const CKXXMLException*>(&exception), nullptr);
+  }
+  EXPECT_NE(m_facade.GetRootElement(), nullptr);
   LoadSample("legacy");
   EXPECT_EQ(m_facade.GetReportZoneCount(), 3);
 }
