@@ -11,10 +11,8 @@ class CXMLNode;
 /// A value holder that a zone of a report type offers: its key, and what users see of it. Value class.
 class ZEB_EXPORT CAvailableVH {
  public:
-  /// Type of the value, as CValueHolder::ValueHolderType. Any other value is carried as it is.
-  enum AvailableValueHolderType : int {
-    AvailableValueHolderTypeNone = 0,  ///< neither read nor set
-  };
+  /// Type of the value: a number that the file gives and that is passed through. The library gives its values no names.
+  enum AvailableValueHolderType : int {};
 
   CAvailableVH();
   CAvailableVH(const CAvailableVH& other);
@@ -45,6 +43,6 @@ class ZEB_EXPORT CAvailableVH {
   std::wstring m_strInternalName;
   std::wstring m_strExternalName;
   std::wstring m_strExternalDescription;
-  AvailableValueHolderType m_eValueHolderType = AvailableValueHolderTypeNone;
+  AvailableValueHolderType m_eValueHolderType = AvailableValueHolderType{0};  // neither read nor set
   int m_iVersionNr = -1;
 };

@@ -19,7 +19,7 @@ class ZEB_EXPORT CAvailableValueHolderBase {
   virtual const wchar_t* GetValueAsText();
   /// The value as a number: a new object that the caller owns; 0 with two decimals here.
   virtual CDoubleElement* GetValueAsDouble();
-  /// Called before a value is asked for; does nothing here.
+  /// For the caller's own use; the library never calls it. Does nothing here.
   virtual void CallGetValue();
 
   CAvailableValueHolderBase& operator=(const CAvailableValueHolderBase& other);

@@ -22,7 +22,7 @@ class ZEB_EXPORT CDynamicValueHolderAttribute {
 
   CDynamicValueHolderAttribute& operator=(const CDynamicValueHolderAttribute& other);
 
-  /// Key of the attribute, without the kind's prefix.
+  /// Key of the attribute.
   const wchar_t* GetInternalKey() const;
   void SetInternalKey(const wchar_t* internalKey);
   /// The name shown to users.
