@@ -225,6 +225,17 @@ TEST_F(ReportDescriptionsFile, LoadedTwiceDoublesEntriesAndItems) {
   EXPECT_EQ(descriptions.GetDynamicVHItemCount(), 6);
 }
 
+// The version of the file before is still that of the object, so this one is read by the names of generation 1.
+TEST_F(ReportDescriptionsFile, FixedVersionStaysForALoadThatNamesNone) {
+  CReportDescriptions descriptions;
+  descriptions.LoadReportDescriptions(Sample("descriptions_v1.xml").c_str());
+  descriptions.LoadReportDescriptions(
+      Write("<ReportDescription><FileName>f2</FileName></ReportDescription>").c_str());
+  ASSERT_EQ(descriptions.GetReportDescriptionsCount(), 4);
+  EXPECT_STREQ(descriptions.GetReportDescriptionAt(3)->GetFileName(), L"");
+  EXPECT_STREQ(descriptions.GetProductFamily(), L"Handel & Bank");
+}
+
 TEST_F(ReportDescriptionsFile, WithoutVersionCountsAsGeneration2) {
   CReportDescriptions descriptions;
   descriptions.LoadReportDescriptions(
