@@ -2,6 +2,29 @@
 
 namespace supplier {
 
+namespace {
+
+void CollectCondition(CReportZone& zone, const CPlaceable& object) {
+  if (const CCondition* condition = object.GetCondition()) {
+    zone.CollectFormulaVariables(condition->GetFormula());
+  }
+}
+
+/// Adds to the zone's formula keys what a loading leaves out: the keys that formulas read which are only defined, and
+/// the conditions of table cells and of what is in them.
+void CollectLeftOut(CReportZone& zone) {
+  for (int i = 0; i < zone.GetDefinedFormulaValueHoldersCount(); ++i) {
+    zone.CollectFormulaVariables(zone.GetDefinedFormulaValueHolderAt(i)->GetFormula());
+  }
+  for (int i = 0; i < zone.GetTableCellCount(); ++i) {
+    const CTableCell& cell = *zone.GetTableCellAt(i);
+    CollectCondition(zone, cell);
+    for (int j = 0; j < cell.GetCellElementCount(); ++j) CollectCondition(zone, *cell.GetCellElementAt(j));
+  }
+}
+
+}  // namespace
+
 const Value* RowSource::Find(const std::wstring& key) const {
   for (const Row* values : {row, global}) {
     if (values == nullptr) continue;
@@ -35,9 +58,9 @@ void RowSupplier::OfferTo(CReportValueHolders& report, const std::set<std::wstri
     for (int j = 0; j < report.GetReportZoneValueHolderCount(i); ++j) {
       Offer(zone, report.GetReportZoneValueHolderInternalNameAt(i, j));
     }
-    // What formulas that are only defined read is not among the zone's formula keys.
+    CollectLeftOut(zone);
     for (int j = 0; j < zone.GetDefinedFormulaValueHoldersCount(); ++j) {
-      zone.CollectFormulaVariables(zone.GetDefinedFormulaValueHolderAt(j)->GetFormula());
+      Offer(zone, zone.GetDefinedFormulaValueHolderAt(j)->GetRoundVHKey());
     }
     for (int j = 0; j < report.GetReportZoneFormulaValueHolderKeyCount(i); ++j) {
       Offer(zone, report.GetReportZoneFormulaValueHolderKeyAt(i, j));

@@ -2,6 +2,7 @@
 
 #include "ReportRun.h"
 #include "Utf8.h"
+#include "support/Files.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>
@@ -88,6 +89,13 @@ bool IsVisible(const PrintedZone& zone, const std::wstring& object) {
   }
   ADD_FAILURE() << "no condition";
   return false;
+}
+
+/// The text with one place of it changed, which must be there.
+std::string Changed(std::string text, const std::string& from, const std::string& to) {
+  const std::size_t place = text.find(from);
+  EXPECT_NE(place, std::string::npos) << from;
+  return place == std::string::npos ? text : text.replace(place, from.size(), to);
 }
 
 double Printed(const PrintedZone& zone, const wchar_t* key) { return zone.results.at(key).printed; }
@@ -228,6 +236,62 @@ TEST(Supplier, ComputesTheSumInATableCellOfTheDeliveryNote) {
   EXPECT_DOUBLE_EQ(Printed(zones[9], L"SU.Bestellt"), 933);
   EXPECT_DOUBLE_EQ(Printed(zones[9], L"SU.Geliefert"), 881);
   EXPECT_DOUBLE_EQ(Printed(zones[9], L"FX.Komplett"), 0) << "less is delivered than ordered";
+}
+
+// The round key of a formula that no zone shows is among no zone's formula keys: Defekt is 2, with three decimals.
+TEST(Supplier, OffersTheRoundKeysOfDefinedFormulas) {
+  const std::filesystem::path sample = std::filesystem::path(ZEB_EXAMPLES) / "legacy";
+  const zebtest::TempDir dir;
+  std::string report = zebtest::ReadFile(sample / "report.xml");
+  const std::size_t record = report.find("<InternalKey>FX.Defekt</InternalKey>");
+  ASSERT_NE(record, std::string::npos);
+  report = report.substr(0, record) + Changed(report.substr(record), "<RoundVHKey>PL.Nks0</RoundVHKey>",
+                                              "<RoundVHKey>PL.NksX</RoundVHKey>");
+  zebtest::WriteFile(dir.File("report.xml"), report);
+  zebtest::WriteFile(dir.File("data.json"), Changed(zebtest::ReadFile(sample / "data.json"), "\"PL.Nks2\": 2",
+                                                    "\"PL.Nks2\": 2, \"PL.NksX\": 3"));
+  const supplier::Result defect =
+      supplier::ReportRun(dir.File("data.json"), ZEB_SHARE).Print().at(1).results.at(L"FX.Defekt");
+  EXPECT_EQ(defect.decimals, 3);
+  EXPECT_DOUBLE_EQ(defect.printed, 2);
+}
+
+// Nor are the keys of the conditions of cells and of the texts in them.
+TEST(Supplier, OffersWhatConditionsInCellsRead) {
+  const zebtest::TempDir dir;
+  std::string report = zebtest::ReadFile(kInvoice.parent_path() / "report.xml");
+  const std::size_t text = report.find("<TextContent>abzüglich Rabatt:</TextContent>");
+  ASSERT_NE(text, std::string::npos);
+  const std::size_t condition = report.rfind("<Condition>", text);
+  std::string changed = Changed(report.substr(condition), "Rabatt &gt; 0", "ZeigeRabatt &gt; 0");
+  changed = Changed(changed, "<InternalKey>Rabatt<", "<InternalKey>ZeigeRabatt<");
+  zebtest::WriteFile(dir.File("report.xml"), report.substr(0, condition) + changed);
+  const std::string data = zebtest::ReadFile(kInvoice);
+  for (const bool isShown : {true, false}) {
+    const std::string value = isShown ? "1" : "0";
+    zebtest::WriteFile(dir.File("data.json"),
+                       Changed(data, "\"PL.Nks2\": 2", "\"PL.Nks2\": 2, \"ZeigeRabatt\": " + value));
+    const PrintedZone zone = supplier::ReportRun(dir.File("data.json"), ZEB_SHARE).Print().at(3);
+    EXPECT_EQ(IsVisible(zone, L"abzüglich Rabatt:"), isShown);
+    EXPECT_FALSE(IsVisible(zone, L"FX.Rabatt")) << "the second position has no discount";
+  }
+}
+
+TEST(Supplier, OffersWhatConditionsOfCellsRead) {
+  const zebtest::TempDir dir;
+  std::string report = zebtest::ReadFile(kInvoice.parent_path() / "report.xml");
+  const std::size_t records = report.find("  <TableCell>");
+  ASSERT_NE(records, std::string::npos);
+  const std::size_t cell = report.find("</Placeable>", records);
+  report.insert(
+      cell,
+      "<Condition><Formula>ZeigeZelle &gt; 0</Formula><KeyToType><InternalKey>ZeigeZelle</InternalKey>"
+      "<VHType>2</VHType></KeyToType></Condition>");
+  zebtest::WriteFile(dir.File("report.xml"), report);
+  zebtest::WriteFile(dir.File("data.json"), Changed(zebtest::ReadFile(kInvoice), "\"PL.Nks2\": 2",
+                                                    "\"PL.Nks2\": 2, \"ZeigeZelle\": 1"));
+  const PrintedZone zone = supplier::ReportRun(dir.File("data.json"), ZEB_SHARE).Print().at(1);
+  EXPECT_TRUE(IsVisible(zone, L"ZeigeZelle > 0"));
 }
 
 TEST(Supplier, GivesTheSameAtASecondRun) {
