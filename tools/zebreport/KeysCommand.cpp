@@ -60,14 +60,19 @@ void WriteZone(const ZoneNeeds& zone, std::wstring& output) {
         {field.key, field.kind, TypeName(field.type), field.place, field.name, Result(field), Source(field)});
   }
   fields.AppendTo(output, 1);
-  if (!zone.formulaKeys.empty()) lines.Add(1, L"formulas and conditions read: " + Joined(zone.formulaKeys));
-  if (!zone.definedFormulaKeys.empty()) {
-    lines.Add(1, L"defined formulas also read: " + Joined(zone.definedFormulaKeys));
-  }
-  if (!zone.sumKeys.empty()) lines.Add(1, L"sums add up: " + Joined(zone.sumKeys));
+  const auto addKeys = [&lines](const std::wstring& title, const std::vector<std::wstring>& keys) {
+    if (!keys.empty()) lines.Add(1, title + L": " + Joined(keys));
+  };
+  addKeys(L"formulas and conditions read", zone.formulaKeys);
+  addKeys(L"defined formulas also read", zone.definedFormulaKeys);
+  addKeys(L"conditions in cells also read", zone.cellConditionKeys);
+  addKeys(L"sums add up", zone.sumKeys);
+  addKeys(L"other sums add up", zone.otherSumKeys);
+  TextTable graphics({L"graphic", L"width", L"height"});
   for (const NeededGraphic& graphic : zone.graphics) {
-    lines.Add(1, L"graphic " + graphic.key + L": " + Number(graphic.width) + L" x " + Number(graphic.height));
+    graphics.AddRow({graphic.key, Number(graphic.width), Number(graphic.height)});
   }
+  graphics.AppendTo(output, 1);
 }
 
 void WriteStrings(const wchar_t* key, const std::vector<std::wstring>& strings, JsonWriter& json) {
@@ -88,6 +93,8 @@ void WriteField(const NeededField& field, JsonWriter& json) {
     json.Key(L"isEmptyIfValueIsEmpty").Bool(field.isEmptyIfValueIsEmpty);
     json.Key(L"isEmptyIfZero").Bool(field.isEmptyIfZero);
     json.Key(L"isTruthValue").Bool(field.isTruthValue);
+    json.Key(L"roundKey").String(field.roundKey);
+    json.Key(L"internalDecimalPlaces").Integer(field.internalDecimalPlaces);
   }
   if (field.kind == L"sum") json.Key(L"sumKey").String(field.sumKey);
   if (field.kind == L"copied field") {
@@ -107,7 +114,9 @@ void WriteZone(const ZoneNeeds& zone, JsonWriter& json) {
   json.End();
   WriteStrings(L"formulaKeys", zone.formulaKeys, json);
   WriteStrings(L"definedFormulaKeys", zone.definedFormulaKeys, json);
+  WriteStrings(L"cellConditionKeys", zone.cellConditionKeys, json);
   WriteStrings(L"sumKeys", zone.sumKeys, json);
+  WriteStrings(L"otherSumKeys", zone.otherSumKeys, json);
   json.Key(L"graphics").BeginArray();
   for (const NeededGraphic& graphic : zone.graphics) {
     json.BeginObject();

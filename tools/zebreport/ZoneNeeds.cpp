@@ -3,7 +3,7 @@
 #include "FormulaText.h"
 #include "Names.h"
 
-#include <algorithm>
+#include <set>
 
 namespace zebreport {
 
@@ -16,10 +16,15 @@ constexpr int kTruthValue = 4;
 
 std::wstring TextOrEmpty(const wchar_t* text) { return text == nullptr ? std::wstring() : text; }
 
-/// What is asked of the value holder itself: the facade tells neither its type nor what it sums up or copies.
+/// What is asked of the value holder itself: the facade tells neither its type nor its rounding nor what it sums up or
+/// copies.
 void DescribeObject(const CValueHolder& valueHolder, NeededField& field) {
   field.kind = KindOf(valueHolder);
   field.type = valueHolder.GetValueHolderType();
+  if (const auto* formula = dynamic_cast<const CFormulaValueHolder*>(&valueHolder)) {
+    field.roundKey = formula->GetRoundVHKey();
+    field.internalDecimalPlaces = formula->GetInternalDecimalPlaces();
+  }
   if (const auto* sum = dynamic_cast<const CSumValueHolder*>(&valueHolder)) field.sumKey = sum->GetSumKey();
   if (const auto* copy = dynamic_cast<const CCopyValueHolder*>(&valueHolder)) {
     field.copiedZone = copy->GetRefZoneID();
@@ -71,34 +76,80 @@ std::vector<const CValueHolder*> ObjectsOfIndex(const CReportZone& zone) {
   return objects;
 }
 
-void AddOnce(const std::wstring& key, std::vector<std::wstring>& keys) {
-  if (std::find(keys.begin(), keys.end(), key) == keys.end()) keys.push_back(key);
+/// Lists of keys, of which each key enters one list only, once.
+class KeyLists {
+ public:
+  void Add(const std::wstring& key, std::vector<std::wstring>& keys) {
+    if (m_known.insert(key).second) keys.push_back(key);
+  }
+
+  /// The keys that a formula reads. A bad formula has none.
+  void AddOfFormula(const std::wstring& formula, std::vector<std::wstring>& keys) {
+    for (const std::wstring& key : FindVariables(formula).names) Add(key, keys);
+  }
+
+  void AddOfCondition(const CPlaceable& object, std::vector<std::wstring>& keys) {
+    if (const CCondition* condition = object.GetCondition()) AddOfFormula(condition->GetFormula(), keys);
+  }
+
+ private:
+  std::set<std::wstring> m_known;
+};
+
+/// Whether a key stands for its number of decimal places, so that nobody has to supply it.
+bool IsFixedRoundKey(const std::wstring& key) {
+  return key.size() == 7 && key.starts_with(L"PL.Nks") && key.back() >= L'0' && key.back() <= L'6';
 }
 
-/// The keys of the defined formulas, which the library leaves out of its keys. A bad formula has none.
-void AddDefinedFormulaKeys(ZoneNeeds& needs) {
-  for (const NeededField& field : needs.fields) {
-    if (field.place != L"defined") continue;
-    for (const std::wstring& key : FindVariables(field.formula).names) {
-      const auto& known = needs.formulaKeys;
-      if (std::find(known.begin(), known.end(), key) == known.end()) AddOnce(key, needs.definedFormulaKeys);
+/// The keys that the library finds, and behind them those that it leaves out: what defined formulas read, and the
+/// conditions of cells and of what is in them.
+void AddReadKeys(CReportZone& object, ZoneNeeds& needs) {
+  KeyLists lists;
+  for (int i = 0; i < object.GetFormulaValueHolderKeyCount(); ++i) {
+    lists.Add(object.GetFormulaValueHolderKeyAt(i), needs.formulaKeys);
+  }
+  for (int i = 0; i < object.GetDefinedFormulaValueHoldersCount(); ++i) {
+    const CFormulaValueHolder& formula = *object.GetDefinedFormulaValueHolderAt(i);
+    const std::wstring roundKey = formula.GetRoundVHKey();
+    lists.AddOfFormula(formula.GetFormula(), needs.definedFormulaKeys);
+    if (!roundKey.empty() && !IsFixedRoundKey(roundKey)) lists.Add(roundKey, needs.definedFormulaKeys);
+    lists.AddOfCondition(formula, needs.definedFormulaKeys);
+  }
+  for (int i = 0; i < object.GetTableCellCount(); ++i) {
+    const CTableCell& cell = *object.GetTableCellAt(i);
+    lists.AddOfCondition(cell, needs.cellConditionKeys);
+    for (int j = 0; j < cell.GetCellElementCount(); ++j) {
+      lists.AddOfCondition(*cell.GetCellElementAt(j), needs.cellConditionKeys);
     }
   }
 }
 
-void AddGraphic(CReportValueHolders& report, int zone, const std::wstring& key, ZoneNeeds& needs) {
-  const auto isKnown = [&](const NeededGraphic& graphic) { return graphic.key == key; };
-  if (std::any_of(needs.graphics.begin(), needs.graphics.end(), isKnown)) return;
-  NeededGraphic graphic{key};
-  if (report.GetGraphicValueHolderDimensions(zone, key.c_str(), graphic.width, graphic.height)) {
-    needs.graphics.push_back(graphic);
+/// The keys that the library finds in the sums of a footer zone, and behind them those of all other sums.
+void AddSumKeys(const CReportZone& object, ZoneNeeds& needs) {
+  KeyLists lists;
+  for (int i = 0; i < object.GetSumValueHolderKeyCount(); ++i) {
+    lists.Add(object.GetSumValueHolderKeyAt(i), needs.sumKeys);
+  }
+  for (const NeededField& field : needs.fields) {
+    if (field.kind == L"sum") lists.Add(field.sumKey, needs.otherSumKeys);
+  }
+}
+
+/// The first graphic of each key outside cells, as the facade would find it for the key.
+void AddGraphics(const CReportZone& object, ZoneNeeds& needs) {
+  std::set<std::wstring> known;
+  for (int i = 0; i < object.GetValueHolderCount(); ++i) {
+    const CValueHolder& graphic = *object.GetValueHolderAt(i);
+    if (graphic.GetValueHolderType() != CValueHolder::VHTypeGraphic) continue;
+    const std::wstring key = graphic.GetInternalKey();
+    if (known.insert(key).second) needs.graphics.push_back({key, graphic.GetWidth(), graphic.GetHeight()});
   }
 }
 
 }  // namespace
 
 ZoneNeeds NeedsOfZone(CReportValueHolders& report, int zone) {
-  const CReportZone& object = *report.GetRootElement()->GetReportDocument()->GetReportZoneAt(zone);
+  CReportZone& object = *report.GetRootElement()->GetReportDocument()->GetReportZoneAt(zone);
   ZoneNeeds needs;
   needs.name = report.GetReportZoneInternalName(zone);
   needs.isFooter = object.GetFooterZone();
@@ -107,19 +158,14 @@ ZoneNeeds NeedsOfZone(CReportValueHolders& report, int zone) {
     NeededField field = FieldAt(report, zone, i);
     DescribeObject(*objects[static_cast<std::size_t>(i)], field);
     field.place = i < object.GetValueHolderCount() ? L"zone" : L"table cell";
-    AddGraphic(report, zone, field.key, needs);
     needs.fields.push_back(std::move(field));
   }
   for (int i = 0; i < object.GetDefinedFormulaValueHoldersCount(); ++i) {
     needs.fields.push_back(DefinedField(*object.GetDefinedFormulaValueHolderAt(i)));
   }
-  for (int i = 0; i < report.GetReportZoneFormulaValueHolderKeyCount(zone); ++i) {
-    AddOnce(report.GetReportZoneFormulaValueHolderKeyAt(zone, i), needs.formulaKeys);
-  }
-  AddDefinedFormulaKeys(needs);
-  for (int i = 0; i < object.GetSumValueHolderKeyCount(); ++i) {
-    AddOnce(object.GetSumValueHolderKeyAt(i), needs.sumKeys);
-  }
+  AddReadKeys(object, needs);
+  AddSumKeys(object, needs);
+  AddGraphics(object, needs);
   return needs;
 }
 
