@@ -456,6 +456,8 @@ class ZEB_EXPORT CRTFParser {
   /// Empties the table of `m_DocProps`.
   void FreeTableData();
   void ReadPictureDigits(std::vector<unsigned char>& bytes);
+  /// Reads digits two by two, as far as no line end or mark stands among them.
+  void ReadDigitPairs(std::vector<unsigned char>& bytes);
   /// Hands the picture to the caller for conversion.
   /// @return whether the picture has been replaced
   bool ConvertPicture(int format);

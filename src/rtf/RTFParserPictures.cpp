@@ -3,7 +3,10 @@
 #include "rtf/RTFParser.h"
 
 #include <algorithm>
+#include <array>
 #include <climits>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -17,15 +20,28 @@ constexpr std::size_t kStoreChunk = 65535;
 
 enum PictureFormat : int { formatAsIs = 0, formatPng = 2, formatEmf = 5 };
 
-unsigned char ToUpper(unsigned char ch) {
+constexpr unsigned char ToUpper(unsigned char ch) {
   return ch >= 'a' && ch <= 'z' ? static_cast<unsigned char>(ch - ('a' - 'A')) : ch;
 }
 
 /// Fixed behaviour: digits are not checked; any other character than 0 to 9 counts as a letter behind 9.
-unsigned DigitValue(unsigned char upperCased) {
+constexpr unsigned DigitValue(unsigned char upperCased) {
   const bool isDigit = upperCased >= '0' && upperCased <= '9';
   return static_cast<unsigned>(upperCased) - static_cast<unsigned>(isDigit ? '0' : '7');
 }
+
+/// What stands between the digits of a picture, and what ends them.
+constexpr unsigned kNoDigit = 0x100;
+
+/// The lowest byte of each character's value as a digit, or kNoDigit.
+constexpr std::array<std::uint16_t, 256> kDigits = [] {
+  std::array<std::uint16_t, 256> digits{};
+  for (std::size_t ch = 0; ch < digits.size(); ++ch) {
+    digits[ch] = static_cast<unsigned char>(DigitValue(ToUpper(static_cast<unsigned char>(ch))));
+  }
+  for (const char ch : {'\0', '\n', '\r', '\\', '{', '}'}) digits[static_cast<unsigned char>(ch)] = kNoDigit;
+  return digits;
+}();
 
 /// A new store, owned by the caller.
 CFontData* MakeStore(unsigned char* bytes, std::size_t count) {
@@ -64,6 +80,7 @@ void CRTFParser::ReadPictureDigits(std::vector<unsigned char>& bytes) {
   m_HexLow = 0;
   bool highRead = false;
   for (;;) {
+    if (!highRead) ReadDigitPairs(bytes);
     const unsigned char* const before = m_pCur;
     const unsigned char ch = GetChar();
     if (ch == 0 || ch == '\\' || ch == '{' || ch == '}') {
@@ -80,6 +97,26 @@ void CRTFParser::ReadPictureDigits(std::vector<unsigned char>& bytes) {
     }
     highRead = !highRead;
   }
+}
+
+void CRTFParser::ReadDigitPairs(std::vector<unsigned char>& bytes) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): read only as far as it was filled
+  std::array<unsigned char, 512> read;
+  std::size_t count = 0;
+  do {
+    for (count = 0; count < read.size() && m_pEnd - m_pCur >= 2; ++count) {
+      const unsigned high = kDigits[m_pCur[0]];
+      const unsigned low = kDigits[m_pCur[1]];
+      if (((high | low) & kNoDigit) != 0) break;
+      m_pCur += 2;
+      read[count] = static_cast<unsigned char>(high * 16 + low);
+    }
+    if (count > 0) {
+      m_HexHigh = ToUpper(m_pCur[-2]);
+      m_HexLow = ToUpper(m_pCur[-1]);
+    }
+    bytes.insert(bytes.end(), read.begin(), read.begin() + count);
+  } while (count == read.size());
 }
 
 void CRTFParser::ReadPictureData() {

@@ -281,4 +281,38 @@ TEST(RTFPictureTest, LongPictureIsComplete) {
   EXPECT_TRUE(Pictures(reading)[0] == expected);
 }
 
+TEST(RTFPictureTest, DigitsWithoutLineEndsAreComplete) {
+  // Around the number of bytes that are read at once, with and without a digit too many.
+  for (const std::size_t bytes : {511U, 512U, 513U, 1024U, 1025U}) {
+    std::string digits;
+    for (std::size_t i = 0; i < bytes; ++i) digits += "4a";
+    const std::string head = "{{\\*\\shppict{\\pict ";
+    EXPECT_EQ(Pictures(RTFReading(head + digits + "}}}")), Strings{std::string(bytes, 'J')}) << bytes;
+    EXPECT_EQ(Pictures(RTFReading(head + digits + "4}}}")), Strings{std::string(bytes, 'J')}) << bytes;
+    EXPECT_EQ(Pictures(RTFReading(head + digits)), Strings{std::string(bytes, 'J')}) << bytes;
+    EXPECT_EQ(Pictures(RTFReading(head + digits + "4")), Strings{std::string(bytes, 'J')}) << bytes;
+  }
+}
+
+TEST(RTFPictureTest, EveryByteCountsAsItsDigit) {
+  // Upper-cased, less "0" if it is a digit and less "7" if not.
+  for (int byte = 1; byte < 256; ++byte) {
+    const char ch = static_cast<char>(byte);
+    if (std::strchr("\r\n\\{}", ch) != nullptr) continue;
+    const int upper = byte >= 'a' && byte <= 'z' ? byte - 32 : byte;
+    const int value = upper - (upper >= '0' && upper <= '9' ? 48 : 55);
+    const std::string expected = {static_cast<char>(value * 16 + 1), static_cast<char>(32 + value)};
+    const std::string body = {'0', '0', ch, '1', '2', ch};
+    EXPECT_EQ(Pictures(RTFReading("{{\\*\\shppict{\\pict\n" + body + "}}}")), Strings{'\0' + expected})
+        << byte;
+  }
+}
+
+TEST(RTFPictureTest, HexBytesInFrontOfTheDigitsAreNotPartOfThem) {
+  // The first pair of them ends at the digit 2, where the picture begins.
+  const RTFReading reading(R"({{\*\shppict{\pict \'41\'424344}}})");
+  EXPECT_EQ(reading.Result(), 0);
+  EXPECT_EQ(Pictures(reading), Strings{"$4"});
+}
+
 }  // namespace
