@@ -8,22 +8,34 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 /// The byte that two hex digits make up, as far as they have been read.
 struct CRTFParser::HexByte {
-  int m_iDigitsLeft = 2;
+  static constexpr int kDigits = 2;
+
+  bool HasBegun() const { return m_iDigitsLeft < kDigits; }
+
+  int m_iDigitsLeft = kDigits;
   unsigned m_uValue = 0;
 };
 
 namespace {
 
-/// The value of a hex digit, -1 for any other byte.
-int HexDigit(unsigned char ch) {
-  if (ch >= '0' && ch <= '9') return ch - '0';
-  if (ch >= 'a' && ch <= 'f') return ch - 'a' + 10;
-  if (ch >= 'A' && ch <= 'F') return ch - 'A' + 10;
-  return -1;
-}
+/// The values of hex digits, -1 for any other byte.
+constexpr std::array<signed char, 256> kHexDigits = [] {
+  std::array<signed char, 256> values{};
+  values.fill(-1);
+  for (const std::string_view digits : {"0123456789abcdef", "0123456789ABCDEF"}) {
+    for (std::size_t value = 0; value < digits.size(); ++value) {
+      values[static_cast<unsigned char>(digits[value])] = static_cast<signed char>(value);
+    }
+  }
+  return values;
+}();
+
+/// The quote and the two digits behind a backslash.
+constexpr std::ptrdiff_t kHexByteLength = 3;
 
 /// Whether a byte of text is text and nothing else.
 constexpr std::array<bool, 256> kPlain = [] {
@@ -133,6 +145,7 @@ int CRTFParser::ParseByte(unsigned char ch, HexByte& hex, char* pending) {
     case '\r':
       return rtfOK;
     case '\\':
+      if (!hex.HasBegun() && ParseHexBytes(pending)) return rtfOK;
       if (pending[0] != 0 && !NextIsHexByte()) FlushPending(pending);
       return ParseRtfKeyword();
     case '{':
@@ -163,7 +176,7 @@ void CRTFParser::FlushPending(char* pending) {
 }
 
 int CRTFParser::ParseHexDigit(unsigned char ch, HexByte& hex, char* pending) {
-  const int digit = HexDigit(ch);
+  const int digit = kHexDigits[ch];
   if (digit < 0) return rtfInvalidHex;
   hex.m_uValue = hex.m_uValue * 16 + static_cast<unsigned>(digit);
   if (--hex.m_iDigitsLeft > 0) return rtfOK;
@@ -171,6 +184,34 @@ int CRTFParser::ParseHexDigit(unsigned char ch, HexByte& hex, char* pending) {
   const char byte = static_cast<char>(hex.m_uValue);
   hex = HexByte();
   m_ris = risNorm;
+  TakeHexByte(byte, pending);
+  return rtfOK;
+}
+
+bool CRTFParser::ParseHexBytes(char* pending) {
+  if (m_rds == rdsSkip) return false;
+  int byte = WholeHexByteAt(m_pCur);
+  if (byte < 0) return false;
+  m_bSkipDestIfUnknown = false;
+  m_ris = risNorm;
+  for (;;) {
+    m_pCur += kHexByteLength;
+    TakeHexByte(static_cast<char>(byte), pending);
+    if (m_pCur == m_pEnd || *m_pCur != '\\') return true;
+    byte = WholeHexByteAt(m_pCur + 1);
+    if (byte < 0) return true;
+    ++m_pCur;
+  }
+}
+
+int CRTFParser::WholeHexByteAt(const unsigned char* from) const {
+  if (m_pEnd - from < kHexByteLength || from[0] != '\'') return -1;
+  const int high = kHexDigits[from[1]];
+  const int low = kHexDigits[from[2]];
+  return high < 0 || low < 0 ? -1 : high * 16 + low;
+}
+
+void CRTFParser::TakeHexByte(char byte, char* pending) {
   if (m_cSkip > 0) {
     --m_cSkip;
   } else if (pending[0] == 0) {
@@ -179,7 +220,6 @@ int CRTFParser::ParseHexDigit(unsigned char ch, HexByte& hex, char* pending) {
     pending[1] = byte;
     ParseMultiByteCharacter(pending, 2);
   }
-  return rtfOK;
 }
 
 void CRTFParser::ParsePlainBytes(unsigned char ch) {
@@ -196,17 +236,12 @@ void CRTFParser::ParsePlainBytes(unsigned char ch) {
 
 void CRTFParser::AppendPlainText(unsigned char ch) {
   // All bytes up to the next brace, backslash or line end go one way: through the code page into the text.
-  const wchar_t* characters = PlainByteCharacters();
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): read only as far as it was filled
-  std::array<wchar_t, 512> text;
-  std::size_t count = 0;
-  text[count++] = characters[ch];
-  while (m_pCur < m_pEnd && kPlain[*m_pCur]) {
-    if (count == text.size()) {
-      m_TextBuffer.append(text.data(), count);
-      count = 0;
-    }
-    text[count++] = characters[*m_pCur++];
-  }
-  m_TextBuffer.append(text.data(), count);
+  const wchar_t* const characters = PlainByteCharacters();
+  unsigned char* const from = m_pCur;
+  m_pCur = EndOfPlainBytes(from, m_pEnd);
+  const std::size_t length = m_TextBuffer.size();
+  m_TextBuffer.resize(length + 1 + static_cast<std::size_t>(m_pCur - from));
+  m_TextBuffer[length] = characters[ch];
+  std::transform(from, m_pCur, m_TextBuffer.begin() + static_cast<std::ptrdiff_t>(length) + 1,
+                 [characters](unsigned char byte) { return characters[byte]; });
 }

@@ -52,9 +52,10 @@ void CRTFParser::ParseMultiByteCharacter(unsigned char byte) {
 void CRTFParser::ParseMultiByteCharacter(char* bytes, int count) {
   const auto first = static_cast<unsigned char>(bytes[0]);
   const auto second = static_cast<unsigned char>(bytes[1]);
-  std::array<wchar_t, 2> characters = {PlainByteCharacters()[first], L'\0'};
+  const zeb::CodePage& page = CurrentCodePage();
+  std::array<wchar_t, 2> characters = {page.Characters()[first], L'\0'};
   int converted = 1;
-  if (count == 2) converted = CurrentCodePage().ConvertPair(first, second, characters);
+  if (count == 2) converted = page.ConvertPair(first, second, characters);
   if (converted == 0) {
     characters = {static_cast<wchar_t>(first), static_cast<wchar_t>(second)};
     converted = 2;

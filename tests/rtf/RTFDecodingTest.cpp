@@ -128,6 +128,66 @@ TEST(RTFDecoding, TakesHalfWidthPairsAsTwoCharacters) {
   EXPECT_EQ(TextIn(128, R"(\'b1\'b2)"), L"\xFF71\xFF72");
 }
 
+// Hex bytes that follow each other directly are read at once. Line ends between their characters change nothing but
+// that.
+TEST(RTFDecoding, HexBytesInARowReadAsSingleOnes) {
+  struct Row {
+    const char* body;
+    const wchar_t* text;
+  };
+  constexpr Row kRows[] = {
+      {R"(\'b0\'a1\'c4\'e3)", L"\x554A\x4F60"},
+      {R"(\'b0\'a1\'c4x)", L"\x554A\xC4x"},
+      {R"(\'b0{\'a1}\'c4\'e3)", L"\xB0\xA1\x4F60"},
+      {R"({\'b0\'a1\'c4}\'e3)", L"\x554A\xC4\xE3"},
+      {R"(\'b0\tab\'a1)", L"\xB0\t\xA1"},
+      {R"(\'b0\bin1 x\'a1)", L"\xB0x\xA1"},
+      {R"(\uc2\u252\'61\'62\'b0\'a1)", L"\xFC\x554A"},
+      {R"(\uc1\u252\'b0\'a1\'c4)", L"\xFC\x2227"},
+      {R"(\uc3\u252\'b0\'a1)", L"\xFC"},
+      {R"(\'00\'b0\'a1\'41\'00)", L"\x554A\x41"},
+      {R"({\*\unknown\'41\'42}\'43)", L"\x43"},
+      {R"(\'b0\'a10)", L"\x554A\x30"},
+  };
+  for (const Row& row : kRows) {
+    std::string single;
+    for (const char* at = row.body; *at != '\0'; ++at)
+      single += *at == '\'' ? std::string("'\r\n") : std::string(1, *at);
+    EXPECT_EQ(TextIn(134, row.body), row.text) << row.body;
+    EXPECT_EQ(TextIn(134, single), row.text) << row.body;
+  }
+}
+
+TEST(RTFDecoding, LineEndsDoNotPartPairs) {
+  EXPECT_EQ(TextIn(134, "\\'b0\r\n\\'a1\\'c4\n\\'e3"), L"\x554A\x4F60");
+  EXPECT_EQ(TextIn(134, "\\'b0\\'a\n1\\'c4\\'e\r3"), L"\x554A\x4F60");
+}
+
+TEST(RTFDecoding, FixedAWaitingDigitGoesBeforeThoseOfTheNextHexByte) {
+  EXPECT_EQ(Western(R"({\'4}\'123)"), L"A23");
+  EXPECT_EQ(TextIn(134, R"({\'b}\'0\'a1)"), L"\x554A");
+  EXPECT_EQ(Western(R"(\'4\'42)"), L"D2");
+  EXPECT_EQ(Western(R"(\'\'4142)"), L"A42");
+}
+
+TEST(RTFDecoding, FixedAHexByteTakesTheStarsEffect) {
+  EXPECT_EQ(Western(R"({\*\'41\unknown x})"), L"Ax");
+  EXPECT_EQ(Western(R"({\*\'41\'42\unknown x})"), L"ABx");
+}
+
+TEST(RTFDecoding, HexBytesInARowEndWithTheData) {
+  const auto reading = [](const std::string& body) {
+    return RTFReading("{\\fonttbl{\\f0\\fcharset134 X;}}\\f0 " + body);
+  };
+  EXPECT_EQ(reading(R"(\'b0\'a1)").Parser().GetTextContent(), L"\x554A");
+  EXPECT_EQ(reading(R"(\'b0\'a1\'c4)").Parser().GetTextContent(), L"\x554A\xC4");
+  EXPECT_EQ(reading(R"(\'b0\'a1\'c)").Parser().GetTextContent(), L"\x554A");
+  EXPECT_EQ(reading(R"(\'b0\'a1\')").Parser().GetTextContent(), L"\x554A");
+  EXPECT_EQ(reading(R"(\'b0\'a1\)").Result(), CRTFParser::rtfEndOfData);
+  EXPECT_EQ(reading(R"(\'b0\'a1\'cg)").Result(), CRTFParser::rtfInvalidHex);
+  EXPECT_EQ(reading(R"(\'b0\'a1\'cg)").Parser().GetTextContent(), L"\x554A");
+}
+
 TEST(RTFDecoding, PutsNoZeroCharacterIntoTheText) {
   EXPECT_EQ(Western(R"(a\'00b)"), L"ab");
   EXPECT_EQ(Western(R"(\'41\'00b)"), L"Ab");
