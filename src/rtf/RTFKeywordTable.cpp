@@ -198,38 +198,50 @@ constexpr std::array<CRTFParser::KeywordRow, kRTFKeywordCount> kRows = {{
 
 // An index of the rows by hash, made by the compiler. Rows enter in the order of the table, and a keyword that is
 // in already stays: a look-up finds the row that a walk from the first one would find.
-constexpr std::size_t kSlots = 1024;
-constexpr std::int16_t kFree = -1;
+constexpr std::size_t kSlots = 512;
+constexpr std::size_t kTailLength = 8;
 
-// The keywords with their lengths, which the rows do not tell.
-constexpr std::array<std::string_view, kRTFKeywordCount> kKeywords = [] {
-  std::array<std::string_view, kRTFKeywordCount> keywords;
-  for (std::size_t row = 0; row < kRows.size(); ++row) keywords[row] = kRows[row].Keyword;
-  return keywords;
-}();
+/// A row in the index, with what tells most keywords apart by one comparison.
+struct Slot {
+  std::uint64_t m_uTail = 0;
+  std::uint16_t m_cLetters = 0;
+  std::int16_t m_iRow = -1;  // -1 while the slot is free
+};
 
-constexpr std::size_t SlotOf(std::string_view keyword) {
-  std::uint32_t hash = 2166136261U;
-  for (const char letter : keyword) hash = (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
-  return (hash ^ (hash >> 15)) % kSlots;
+using Index = std::array<Slot, kSlots>;
+
+/// The last letters of a keyword as a number.
+constexpr std::uint64_t TailOf(std::string_view keyword) {
+  std::uint64_t tail = 0;
+  for (const char letter : keyword) tail = tail << 8U | static_cast<unsigned char>(letter);
+  return tail;
 }
 
-using Index = std::array<std::int16_t, kSlots>;
+constexpr bool IsOf(const Slot& slot, std::uint64_t tail, std::string_view keyword) {
+  if (slot.m_uTail != tail || slot.m_cLetters != keyword.size()) return false;
+  if (keyword.size() <= kTailLength) return true;
+  const std::size_t front = keyword.size() - kTailLength;
+  const char* const known = kRows[static_cast<std::size_t>(slot.m_iRow)].Keyword;
+  return keyword.substr(0, front) == std::string_view(known, front);
+}
 
-constexpr std::size_t FindSlot(const Index& index, std::string_view keyword) {
-  std::size_t slot = SlotOf(keyword);
-  while (index[slot] != kFree && keyword != kKeywords[static_cast<std::size_t>(index[slot])]) {
-    slot = (slot + 1) % kSlots;
-  }
-  return slot;
+/// The place of a keyword's slot, or of the free one where it belongs.
+constexpr std::size_t PlaceOf(const Index& index, std::string_view keyword) {
+  const std::uint64_t tail = TailOf(keyword);
+  std::size_t place = ((tail + keyword.size()) * 0x9E3779B97F4A7C15U >> 32U) % kSlots;
+  while (index[place].m_iRow >= 0 && !IsOf(index[place], tail, keyword)) place = (place + 1) % kSlots;
+  return place;
 }
 
 constexpr Index MakeIndex() {
   Index index{};
-  index.fill(kFree);
   for (std::size_t row = 0; row < kRows.size(); ++row) {
-    std::int16_t& entry = index[FindSlot(index, kKeywords[row])];
-    if (entry == kFree) entry = static_cast<std::int16_t>(row);
+    const std::string_view keyword = kRows[row].Keyword;
+    Slot& slot = index[PlaceOf(index, keyword)];
+    if (slot.m_iRow >= 0) continue;
+    slot.m_uTail = TailOf(keyword);
+    slot.m_cLetters = static_cast<std::uint16_t>(keyword.size());
+    slot.m_iRow = static_cast<std::int16_t>(row);
   }
   return index;
 }
@@ -240,6 +252,6 @@ constexpr Index kIndex = MakeIndex();
 
 const std::array<CRTFParser::KeywordRow, kRTFKeywordCount> kRTFKeywordTable = kRows;
 
-int FindRTFKeyword(std::string_view keyword) { return kIndex[FindSlot(kIndex, keyword)]; }
+int FindRTFKeyword(std::string_view keyword) { return kIndex[PlaceOf(kIndex, keyword)].m_iRow; }
 
 }  // namespace zeb

@@ -114,11 +114,6 @@ CRTFParser::~CRTFParser() {
 
 std::wstring CRTFParser::GetTextContent() const { return m_TextBuffer; }
 
-void CRTFParser::UnGetChar() {
-  // Fixed behaviour: goes back behind the data's end as well, where GetChar did not move.
-  if (m_pCur > m_pBegin) --m_pCur;
-}
-
 int CRTFParser::RtfParse() {
   char pending[2] = {0, 0};  // a hex byte that waits for a second one
   HexByte hex;

@@ -266,7 +266,10 @@ class ZEB_EXPORT CRTFParser {
   /// The next byte. 0 at the end of the data, which a zero byte in the data means as well.
   unsigned char GetChar() { return m_pCur < m_pEnd ? *m_pCur++ : static_cast<unsigned char>(0); }
   /// Goes back by one byte, but never in front of the data.
-  void UnGetChar();
+  void UnGetChar() {
+    // Fixed behaviour: goes back behind the data's end as well, where GetChar did not move.
+    if (m_pCur > m_pBegin) --m_pCur;
+  }
   /// Takes a character of the keyword table, a raw byte or the line feed of a paragraph in a table.
   int ParseChar(unsigned char ch);
   /// Reads what follows a backslash.
@@ -385,6 +388,8 @@ class ZEB_EXPORT CRTFParser {
   void ParsePlainBytes(unsigned char ch);
   void AppendPlainText(unsigned char ch);
   unsigned char ReadParameter(unsigned char ch, int& param);
+  /// Does what a row of the keyword table asks for; below 0 is that of no known keyword.
+  int ApplyKeyword(int found, int param, bool hasParam);
 
   // Properties.
   zeb::RTFField FieldOf(const PropertyRow& row);

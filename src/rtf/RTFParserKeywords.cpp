@@ -3,33 +3,30 @@
 #include "rtf/RTFKeywordTable.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <limits>
 
 namespace {
 
-// A longer keyword is unknown. One letter more is kept than known keywords may have, so that it stays unknown.
-constexpr std::size_t kMaxKeyword = 29;
 // Further digits of a parameter are read and dropped.
 constexpr int kMaxDigits = 19;
 
 bool IsLetter(unsigned char ch) { return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z'); }
 bool IsDigit(unsigned char ch) { return ch >= '0' && ch <= '9'; }
 
+int FindKeyword(const unsigned char* letters, std::size_t length) {
+  return zeb::FindRTFKeyword({reinterpret_cast<const char*>(letters), length});
+}
+
 }  // namespace
 
 int CRTFParser::ParseRtfKeyword() {
+  // The keyword is looked up where it stands.
+  const unsigned char* const keyword = m_pCur;
+  m_pCur = std::find_if_not(m_pCur, m_pEnd, IsLetter);
+  const std::size_t length = static_cast<std::size_t>(m_pCur - keyword);
   unsigned char ch = GetChar();
-  if (ch == 0) return rtfEndOfData;
-  std::array<char, kMaxKeyword + 2> keyword{};
-  if (!IsLetter(ch)) {
-    keyword[0] = static_cast<char>(ch);
-    return TranslateKeyword(keyword.data(), 0, 0);
-  }
-  for (std::size_t count = 0; IsLetter(ch); ch = GetChar()) {
-    if (count <= kMaxKeyword) keyword[count++] = static_cast<char>(ch);
-  }
+  if (length == 0) return ch != 0 ? ApplyKeyword(FindKeyword(keyword, 1), 0, false) : rtfEndOfData;
   // Fixed behaviour: the sign is read and has no effect, since a negative parameter is negated twice.
   if (ch == '-') {
     ch = GetChar();
@@ -44,7 +41,7 @@ int CRTFParser::ParseRtfKeyword() {
     ch = GetChar();
   } while (ch == ' ');
   UnGetChar();
-  return TranslateKeyword(keyword.data(), param, hasParam ? 1 : 0);
+  return ApplyKeyword(FindKeyword(keyword, length), param, hasParam);
 }
 
 unsigned char CRTFParser::ReadParameter(unsigned char ch, int& param) {
@@ -59,7 +56,10 @@ unsigned char CRTFParser::ReadParameter(unsigned char ch, int& param) {
 }
 
 int CRTFParser::TranslateKeyword(char* keyword, int param, char hasParam) {
-  const int found = zeb::FindRTFKeyword(keyword);
+  return ApplyKeyword(zeb::FindRTFKeyword(keyword), param, hasParam != 0);
+}
+
+int CRTFParser::ApplyKeyword(int found, int param, bool hasParam) {
   const bool skipIfUnknown = m_bSkipDestIfUnknown;
   m_bSkipDestIfUnknown = false;
   if (found < 0) {
@@ -74,7 +74,7 @@ int CRTFParser::TranslateKeyword(char* keyword, int param, char hasParam) {
       return ChangeDest(static_cast<IDEST>(row.Index));
     case kwdProp:
       return ApplyPropChange(static_cast<IPROP>(row.Index),
-                             hasParam != 0 && row.PassDefault == 0 ? param : row.Default);
+                             hasParam && row.PassDefault == 0 ? param : row.Default);
     case kwdSpec:
       return ParseSpecialKeyword(static_cast<IPFN>(row.Index));
     default:

@@ -10,6 +10,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -225,6 +226,16 @@ TEST(RTFKeywordTable, KnowsNothingElse) {
       EXPECT_EQ(zeb::FindRTFKeyword(changed) >= 0, known.count(changed) == 1) << changed;
     }
   }
+}
+
+TEST(RTFKeywordTable, ComparesKeywordsWhole) {
+  using std::string_view_literals::operator""sv;
+  for (const std::string_view keyword :
+       {"\0b"sv, "b\0"sv, "\0"sv, "listover"sv, "listoverride\0"sv, "listoverridexable"sv,
+        "Xistoverridetable"sv, "errideb"sv, "overridetable"sv, "\0\0\0\0\0\0\0\0b"sv}) {
+    EXPECT_EQ(zeb::FindRTFKeyword(keyword), -1) << keyword;
+  }
+  EXPECT_EQ(zeb::FindRTFKeyword(std::string(65536, 'b') + "b"), -1);
 }
 
 TEST(RTFKeywordTable, FixedPlainSectdAndLeveljcnAreUnknown) {
