@@ -1,10 +1,13 @@
 #include "rtf/RTFParser.h"
 
+#include "rtf/RTFDocumentCopy.h"
 #include "rtf/RTFState.h"
 #include "rtf/RTFStore.h"
 
 #include <algorithm>
 #include <new>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -42,7 +45,8 @@ int CRTFParser::PushRtfState() {
   if (m_cGroup >= kDepthOfSharedStates && m_pStack != nullptr && IsSaved(*m_pStack)) {
     ++m_pStack->m_cGroups;
   } else {
-    auto* state = new (std::nothrow) CRTFState;
+    CRTFState* const state =
+        m_pStore->m_pSpareState ? m_pStore->m_pSpareState.release() : new (std::nothrow) CRTFState;
     if (state == nullptr) return rtfNoMemory;
     SaveState(*state);
     state->Next = m_pStack;
@@ -56,20 +60,19 @@ int CRTFParser::PushRtfState() {
 }
 
 void CRTFParser::SaveState(CRTFState& state) {
-  RowsAside aside(m_DocProps);
-  state.m_cRows = aside.Rows().size();
+  state.m_cGroups = 1;
+  state.m_cRows = m_DocProps.Rows.size();
   state.m_iFreedTables = m_pStore->m_iFreedTables;
   state.CharProps = m_CharProps;
   state.ParProps = m_ParProps;
   state.SecProps = m_SecProps;
-  state.DocProps = m_DocProps;
+  zeb::CopyWithoutRows(m_DocProps, state.DocProps);
   state.FontProps = m_FontProps;
   state.Destination = m_rds;
   state.InternalState = m_ris;
-  if (!KeepsList(m_rds)) {
-    state.List = m_pCurList;
-    state.Level = m_pCurLevel;
-  }
+  const bool keepsList = KeepsList(m_rds);
+  state.List = keepsList ? nullptr : m_pCurList;
+  state.Level = keepsList ? nullptr : m_pCurLevel;
 }
 
 bool CRTFParser::IsSaved(const CRTFState& state) {
@@ -114,9 +117,8 @@ void CRTFParser::RestoreState(const CRTFState& state) {
   }
   // The group has added rows at most; a table that was freed since is empty in every saved state.
   const bool freed = state.m_iFreedTables != m_pStore->m_iFreedTables;
-  RowsAside aside(m_DocProps);
-  m_DocProps = state.DocProps;
-  aside.Rows().resize(freed ? 0 : std::min(aside.Rows().size(), state.m_cRows));
+  zeb::CopyWithoutRows(state.DocProps, m_DocProps);
+  m_DocProps.Rows.resize(freed ? 0 : std::min(m_DocProps.Rows.size(), state.m_cRows));
   if (freed) {
     m_DocProps.CurrentRow = nullptr;
     m_DocProps.CurrentCell = nullptr;
@@ -125,9 +127,8 @@ void CRTFParser::RestoreState(const CRTFState& state) {
 
 void CRTFParser::LeaveTopGroup() {
   if (--m_pStack->m_cGroups > 0) return;
-  CRTFState* next = m_pStack->Next;
-  delete m_pStack;
-  m_pStack = next;
+  // Mostly another group follows at once.
+  m_pStore->m_pSpareState.reset(std::exchange(m_pStack, m_pStack->Next));
 }
 
 CRTFState* CRTFParser::StateOfTopGroup() {

@@ -1,11 +1,13 @@
 #include "rtf/ContextChangedHandler.h"
 #include "rtf/RTFContext.h"
+#include "rtf/RTFDocumentCopy.h"
 #include "rtf/RTFParser.h"
 #include "rtf/RTFState.h"
 #include "rtf/RTFStore.h"
 
 #include <algorithm>
-#include <utility>
+#include <cstddef>
+#include <vector>
 
 // The closing of runs: what goes to the handler, and when.
 
@@ -18,17 +20,9 @@ constexpr unsigned char kLineFeed = 10;
 void ShowRows(std::vector<CRTFTableRow*>& shown, const std::vector<CRTFTableRow*>& rows) {
   std::size_t common = std::min(shown.size(), rows.size());
   while (common > 0 && shown[common - 1] != rows[common - 1]) --common;
+  if (common == shown.size() && common == rows.size()) return;
   shown.resize(common);
   shown.insert(shown.end(), rows.begin() + static_cast<std::ptrdiff_t>(common), rows.end());
-}
-
-/// Copies all but the rows, which `to` keeps.
-void CopyWithoutRows(CDocumentProperties& from, CDocumentProperties& to) {
-  std::vector<CRTFTableRow*> fromRows = std::exchange(from.Rows, {});
-  std::vector<CRTFTableRow*> toRows = std::exchange(to.Rows, {});
-  to = from;
-  from.Rows = std::move(fromRows);
-  to.Rows = std::move(toRows);
 }
 
 /// The colour of characters goes before that of the paragraph, and both before that of the run.
@@ -65,7 +59,7 @@ void CRTFParser::FillState(CRTFState& state) {
   state.ParProps = m_ParProps;
   state.SecProps = m_SecProps;
   state.FontProps = m_FontProps;
-  CopyWithoutRows(m_DocProps, state.DocProps);
+  zeb::CopyWithoutRows(m_DocProps, state.DocProps);
   ShowRows(state.DocProps.Rows, m_DocProps.Rows);
   if (m_ParProps.InTable == 0) return;
   // Fixed behaviour: a run in a table has the formatting that the last tab, quote, raw byte or line end noted.

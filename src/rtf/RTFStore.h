@@ -19,6 +19,8 @@ struct RTFStore {
   std::vector<std::unique_ptr<CRTFTableCell>> m_Cells;
   /// The state that goes with every run. It is kept from run to run, so that its list of rows need not be made anew.
   CRTFState m_RunState;
+  /// The saved state of a group that has ended, for the next one; may be null.
+  std::unique_ptr<CRTFState> m_pSpareState;
 };
 
 }  // namespace zeb
