@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/FileMapping.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -32,6 +34,10 @@ class InstalledFont {
   /// @return false if there is no such font or its file cannot be read
   bool Open(const InstalledFontRequest& request);
   std::uint64_t Size() const;
+  /// All of it in place.
+  /// @param zeros how many zero bytes are to be there behind it at least
+  /// @return null if it is to be read
+  std::shared_ptr<FileMapping> Map(std::size_t zeros) const;
   /// Reads all of it.
   /// @param bytes exactly Size() of them
   bool Read(std::span<std::byte> bytes);

@@ -111,6 +111,7 @@ std::string FindFontFile(const InstalledFontRequest& request) {
 }  // namespace
 
 struct InstalledFont::State {
+  std::wstring Path;
   InputFile File;
 };
 
@@ -119,11 +120,15 @@ InstalledFont::InstalledFont() : m_pState(std::make_unique<State>()) {}
 InstalledFont::~InstalledFont() = default;
 
 bool InstalledFont::Open(const InstalledFontRequest& request) {
-  const std::string path = FindFontFile(request);
-  return !path.empty() && m_pState->File.Open(Utf8ToWide(path)) == FileStatus::Ok;
+  m_pState->Path = Utf8ToWide(FindFontFile(request));
+  return !m_pState->Path.empty() && m_pState->File.Open(m_pState->Path) == FileStatus::Ok;
 }
 
 std::uint64_t InstalledFont::Size() const { return m_pState->File.Size(); }
+
+std::shared_ptr<FileMapping> InstalledFont::Map(std::size_t zeros) const {
+  return FileMapping::Open(m_pState->Path, zeros);
+}
 
 bool InstalledFont::Read(std::span<std::byte> bytes) {
   std::size_t count = 0;

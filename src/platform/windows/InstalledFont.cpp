@@ -78,6 +78,8 @@ bool InstalledFont::Open(const InstalledFontRequest& request) {
 
 std::uint64_t InstalledFont::Size() const { return m_pState->Length; }
 
+std::shared_ptr<FileMapping> InstalledFont::Map(std::size_t /*zeros*/) const { return nullptr; }
+
 bool InstalledFont::Read(std::span<std::byte> bytes) {
   const auto length = static_cast<DWORD>(bytes.size());
   return ::GetFontData(m_pState->Context, m_pState->Table, 0, bytes.data(), length) == length;
