@@ -276,6 +276,12 @@ class ZEB_EXPORT CFontMetrics {
     SlotCount = 9,
   };
 
+  /// The glyphs of 256 codes. Most fonts have characters in few parts of the code space.
+  struct GlyphPage {
+    std::array<unsigned short, 256> glyphs = {};
+    std::array<bool, 256> known = {};
+  };
+
   int m_iFileHandle = -1;             // open while a reader works, else -1
   unsigned short m_usUnitsPerEm = 0;  // 0: not known
   std::wstring m_strBaseFont;
@@ -312,9 +318,10 @@ class ZEB_EXPORT CFontMetrics {
   std::array<std::wstring, 256> m_rgstrCharNames;
   bool m_bUnicodeFont = false;
   CharColl m_CharColl = static_cast<CharColl>(-1);
-  CFontData* m_pSubsetData = nullptr;             // owned, shared by copies
-  std::vector<unsigned short> m_rgusGlyphOfCode;  // indexed by code; empty as long as no code has a glyph
-  std::vector<bool> m_rgbHasGlyph;                // likewise
+  CFontData* m_pSubsetData = nullptr;  // owned, shared by copies
+  std::array<unsigned short, 256> m_rgusGlyphPages =
+      {};  // of 256 codes each, counted from 1; 0 if none has a glyph
+  std::vector<GlyphPage> m_GlyphPages;
   std::map<unsigned short, unsigned short> m_GlyphToNewIndex = {{0, 0}, {1, 1}, {2, 2}};
   std::map<unsigned short, unsigned short> m_NewIndexToGlyph = {{0, 0}, {1, 1}, {2, 2}};
   unsigned short m_usNextNewIndex = 3;

@@ -10,7 +10,6 @@ namespace {
 
 /// First code of the page in which the characters of a Windows symbol font lie.
 constexpr int kSymbolPage = 0xF000;
-constexpr std::size_t kCodeCount = 0x10000;
 
 int ToInt(float value) {
   // Only values that no font has reach the limits.
@@ -40,21 +39,26 @@ int CFontMetrics::ConvertTTToPDF(int value) const {
 }
 
 void CFontMetrics::AddUnicodeToGlyphIndex(unsigned short code, unsigned short glyph) {
-  if (m_rgusGlyphOfCode.empty()) {
-    m_rgusGlyphOfCode.resize(kCodeCount);
-    m_rgbHasGlyph.resize(kCodeCount);
+  unsigned short& number = m_rgusGlyphPages[code >> 8U];
+  if (number == 0) {
+    m_GlyphPages.emplace_back();
+    number = static_cast<unsigned short>(m_GlyphPages.size());
   }
-  if (m_rgbHasGlyph[code]) return;
-  m_rgbHasGlyph[code] = true;
-  m_rgusGlyphOfCode[code] = glyph;
+  GlyphPage& page = m_GlyphPages[number - 1U];
+  bool& known = page.known[code & 0xFFU];
+  if (known) return;
+  known = true;
+  page.glyphs[code & 0xFFU] = glyph;
 }
 
 bool CFontMetrics::FindGlyphIndex(unsigned short code, unsigned short& glyph) const {
   const int sum = m_bSymbolFont && code < kSymbolPage ? code + kSymbolPage : code;
   const auto wanted = static_cast<unsigned short>(sum);
-  if (m_rgbHasGlyph.empty() || !m_rgbHasGlyph[wanted]) return false;
-  glyph = m_rgusGlyphOfCode[wanted];
-  return true;
+  const unsigned short number = m_rgusGlyphPages[wanted >> 8U];
+  if (number == 0) return false;
+  const GlyphPage& page = m_GlyphPages[number - 1U];
+  if (page.known[wanted & 0xFFU]) glyph = page.glyphs[wanted & 0xFFU];
+  return page.known[wanted & 0xFFU];
 }
 
 bool CFontMetrics::FindUsedGlyphIndex(unsigned short glyph, unsigned short& newIndex) const {
