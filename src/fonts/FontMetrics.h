@@ -341,4 +341,8 @@ class ZEB_EXPORT CFontMetrics {
   std::map<unsigned int, unsigned short> m_CompositePatches;  // position in the source to the old value
   bool m_bBoldFont = true;
   bool m_bItalicFont = true;
+
+ private:
+  /// All steps of CreateSubsetFont.
+  void BuildSubset(CFontData* source, CTrueTypeFile& file);
 };

@@ -484,6 +484,23 @@ TEST(Subset, TakesATableThatReachesBehindTheDataAsFarAsItGoes) {
   EXPECT_EQ(U16(subset.All(), subset.Table("prep").offset), 0x0102U);
 }
 
+TEST(Subset, AnEmptyLastGlyphIsNotToldByTheTableBehindIt) {
+  TrueTypeBuilder builder = FontOf({Box(601), Box(602), {600, 0, {}}});
+  // Fills `glyf` up to a multiple of 4, so that the next table follows at once; and it looks like a composite.
+  builder.glyphs[4].outline.resize(kBoxLength + 2);
+  builder.Replace("glyz", TrueTypeBuilder::Composite({3}));
+  TrueTypeFont font = ReadForSubset(builder);
+  const CTrueTypeFile& file = font.File();
+  ASSERT_EQ(file.FindDirEnt("glyz")->GetOffset(),
+            file.FindDirEnt("glyf")->GetOffset() + file.FindDirEnt("glyf")->GetLength());
+  const CFontData& source = *font.Metrics().GetFontData();
+  font.Metrics().MapChar(CodeOf(5));
+  const Subset subset(font);
+  EXPECT_EQ(subset.GlyphCount(), 4U);
+  EXPECT_TRUE(subset.Glyph(3).empty());
+  EXPECT_EQ(Contents(source), builder.Build());
+}
+
 TEST(Subset, ListsAGlyphAndThenWhatItIsMadeOf) {
   const TrueTypeFont font = ReadForSubset(FontOf({Box(), Box(), Composite({4, 3, 4})}));
   std::vector<unsigned short> list = {9, 9};

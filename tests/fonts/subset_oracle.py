@@ -33,6 +33,7 @@ class Font:
             self.tables.setdefault(tag, (self.u32(at + 8), self.u32(at + 12)))
         self.glyph_count = self.u16(self.offset("maxp") + 4)
         self.cached_segments = None
+        self.glyf_end = min(sum(self.tables["glyf"]), len(data))
         self.loca = self.read_loca()
         self.metrics = self.read_metrics()
 
@@ -112,14 +113,14 @@ class Font:
         return self.offset("glyf") + self.loca[glyph]
 
     def is_composite(self, glyph):
-        # An empty glyph is told by the bytes of what follows it; behind the file there is nothing.
+        # An empty glyph is told by the bytes of the glyph that follows it; behind the last one there is nothing.
         at = self.place(glyph)
-        return at + 2 <= len(self.data) and self.s16(at) < 0
+        return at + 2 <= self.glyf_end and self.s16(at) < 0
 
     def components(self, glyph):
         """Where the numbers of the components stand, up to the first that is no glyph of the font."""
         at = self.place(glyph) + 10
-        while at + 4 <= len(self.data):
+        while at + 4 <= self.glyf_end:
             flags = self.u16(at)
             if self.u16(at + 2) >= self.glyph_count:
                 return
