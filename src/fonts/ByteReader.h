@@ -26,8 +26,16 @@ class ByteReader {
   bool AtEnd() const { return m_uOffset == m_Bytes.size(); }
 
   /// Moves to an offset from the start; the end itself is allowed.
-  [[nodiscard]] bool Seek(std::size_t offset);
-  [[nodiscard]] bool Skip(std::size_t count);
+  [[nodiscard]] bool Seek(std::size_t offset) {
+    if (offset > m_Bytes.size()) return false;
+    m_uOffset = offset;
+    return true;
+  }
+  [[nodiscard]] bool Skip(std::size_t count) {
+    if (count > Left()) return false;
+    m_uOffset += count;
+    return true;
+  }
 
   [[nodiscard]] bool ReadU8(std::uint8_t& value) { return ReadBE<1>(value); }
   [[nodiscard]] bool ReadS8(std::int8_t& value) { return ReadBE<1>(value); }
@@ -42,9 +50,18 @@ class ByteReader {
   [[nodiscard]] bool ReadS32LE(std::int32_t& value) { return ReadLE<4>(value); }
 
   /// The next `count` bytes, without a copy.
-  [[nodiscard]] bool ReadSpan(std::size_t count, std::span<const std::byte>& bytes);
+  [[nodiscard]] bool ReadSpan(std::size_t count, std::span<const std::byte>& bytes) {
+    if (count > Left()) return false;
+    bytes = m_Bytes.subspan(m_uOffset, count);
+    m_uOffset += count;
+    return true;
+  }
   /// A reader of `length` bytes from `offset` on, whatever this one's cursor is.
-  [[nodiscard]] bool Part(std::size_t offset, std::size_t length, ByteReader& part) const;
+  [[nodiscard]] bool Part(std::size_t offset, std::size_t length, ByteReader& part) const {
+    if (offset > m_Bytes.size() || length > m_Bytes.size() - offset) return false;
+    part = ByteReader(m_Bytes.subspan(offset, length));
+    return true;
+  }
 
  private:
   template <std::size_t Count, class Number>

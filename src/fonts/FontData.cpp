@@ -3,6 +3,7 @@
 #include "foundation/ErrorKeys.h"
 #include "foundation/KXExceptionHandler.h"
 #include "platform/FileHandle.h"
+#include "platform/FileMapping.h"
 
 #include <algorithm>
 #include <climits>
@@ -10,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -45,7 +47,10 @@ CFontData::CFontData(int chunk, bool growing)
 
 CFontData::CFontData(const CFontData& other) = default;
 
-CFontData::~CFontData() { std::free(m_pBuffer); }
+CFontData::~CFontData() {
+  if (m_pMapping == nullptr) std::free(m_pBuffer);
+  delete m_pMapping;
+}
 
 CFontData& CFontData::operator=(const CFontData& other) = default;
 
@@ -54,9 +59,28 @@ void CFontData::Resize(long long chunks) {
   if (capacity > INT_MAX) ThrowNoMoreMemory();
   const auto size = static_cast<std::size_t>(capacity);
   // A first block that the system gives zeroed need not be touched before it is used.
-  void* const buffer = m_pBuffer == nullptr ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
+  void* const buffer =
+      m_pBuffer == nullptr || m_pMapping != nullptr ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
   if (buffer == nullptr) ThrowNoMoreMemory();
+  if (m_pMapping != nullptr) std::memcpy(buffer, m_pBuffer, static_cast<std::size_t>(m_iCapacity));
+  delete std::exchange(m_pMapping, nullptr);
   m_pBuffer = static_cast<unsigned char*>(buffer);
+  m_iCapacity = static_cast<int>(capacity);
+}
+
+void CFontData::AdoptMapping(std::shared_ptr<zeb::FileMapping> mapping) {
+  const auto length = static_cast<int>(mapping->Bytes().size());
+  if (m_iLength != 0 || m_iCapacity != kDefaultChunk || m_iChunkSize != kDefaultChunk) {
+    AddFontMemData(mapping->Bytes().data(), length);
+    return;
+  }
+  const long long growth = length > m_iCapacity ? length / m_iChunkSize + 1LL : 0;
+  const long long capacity = m_iCapacity + growth * m_iChunkSize;
+  if (capacity > INT_MAX) ThrowNoMoreMemory();
+  std::free(m_pBuffer);
+  m_pBuffer = reinterpret_cast<unsigned char*>(mapping->Bytes().data());
+  m_pMapping = new std::shared_ptr<zeb::FileMapping>(std::move(mapping));
+  m_iLength = length;
   m_iCapacity = static_cast<int>(capacity);
 }
 

@@ -2,9 +2,13 @@
 
 #include "platform/Export.h"
 
+#include <cstddef>
+#include <memory>
+
 namespace zeb {
+class FileMapping;
 class TrueTypeReader;
-}
+}  // namespace zeb
 
 /// A growing block of bytes with a cursor. It holds a font program (or a picture) as read, is parsed in place
 /// with big-endian readers, and is the target into which a subset font program is assembled.
@@ -117,13 +121,21 @@ class ZEB_EXPORT CFontData {
   friend class zeb::TrueTypeReader;
   friend class CFontMetrics;
 
+  /// As much as the growth of a new object can leave behind the content.
+  static constexpr std::size_t kZerosBehindMapping = std::size_t{2} * 65535;
+
   void Resize(long long chunks);
   void Grow(long long chunks);
   /// Adds bytes of any value to the content, which the caller fills in place at once; gives the first one.
   unsigned char* ExtendContent(int count);
+  /// Makes a file the content, as if its bytes had been added. They stay where they are if this object is as new.
+  /// @param mapping of up to INT_MAX bytes with kZerosBehindMapping zeros behind them
+  void AdoptMapping(std::shared_ptr<zeb::FileMapping> mapping);
   void MakeRoomAtCursor(int count);
   unsigned int BigEndianAt(long long pos, int count) const;
   void WriteBigEndianAtPos(int pos, unsigned int value, int count);
   void CopyOut(int pos, int count, unsigned char* target) const;
   void MoveCursor(long long pos);
+
+  std::shared_ptr<zeb::FileMapping>* m_pMapping = nullptr;  // owned, shared by copies; holds a file's block
 };

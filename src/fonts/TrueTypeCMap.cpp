@@ -62,17 +62,6 @@ int CTrueTypeCMap4::FindSegment(unsigned short code) const {
   return found != last ? static_cast<int>(found - m_pGreatestEnd) : 0;
 }
 
-unsigned short CTrueTypeCMap4::GetGlyphOfSegment(int segment, unsigned short code) const {
-  const int start = m_pStartCode[segment];
-  if (code < start) return 0;
-  const int rangeOffset = m_pIdRangeOffset[segment];
-  if (rangeOffset == 0) return static_cast<unsigned short>(code + m_pIdDelta[segment]);
-  const int index = rangeOffset / 2 + (code - start) + (segment - GetSegCount());
-  if (index < 0 || index >= m_iGlyphIdCount) return 0;
-  const unsigned short glyph = m_pGlyphIdArray[index];
-  return glyph == 0 ? glyph : static_cast<unsigned short>(glyph + m_pIdDelta[segment]);
-}
-
 CTrueTypeTabCMap::CTrueTypeTabCMap() = default;
 
 CTrueTypeTabCMap::CTrueTypeTabCMap(const CTrueTypeTabCMap& other) = default;

@@ -75,7 +75,16 @@ class ZEB_EXPORT CTrueTypeCMap4 {
   /// The first segment, in order, whose end is not below the code; 0 if there is none.
   int FindSegment(unsigned short code) const;
   /// The glyph that a segment gives to a code; 0 if it has none.
-  unsigned short GetGlyphOfSegment(int segment, unsigned short code) const;
+  unsigned short GetGlyphOfSegment(int segment, unsigned short code) const {
+    const int start = m_pStartCode[segment];
+    if (code < start) return 0;
+    const int rangeOffset = m_pIdRangeOffset[segment];
+    if (rangeOffset == 0) return static_cast<unsigned short>(code + m_pIdDelta[segment]);
+    const int index = rangeOffset / 2 + (code - start) + (segment - GetSegCount());
+    if (index < 0 || index >= m_iGlyphIdCount) return 0;
+    const unsigned short glyph = m_pGlyphIdArray[index];
+    return glyph == 0 ? glyph : static_cast<unsigned short>(glyph + m_pIdDelta[segment]);
+  }
 
  private:
   friend class zeb::TrueTypeCMapReader;

@@ -1,35 +1,31 @@
 #include "fonts/TrueTypeHMtx.h"
 
-#include <algorithm>
-#include <utility>
+#include "fonts/TrueTypeGlyphs.h"
+
+const wchar_t* CTrueTypeHMtxEntry::GetGlyphName() const {
+  if (m_pGlyphName == nullptr) m_pGlyphName = m_pGlyphs->NameOf(m_iGlyph);
+  return m_pGlyphName;
+}
 
 std::vector<unsigned short> CTrueTypeHMtxEntry::GetCodes() const {
   std::vector<unsigned short> codes;
-  if (m_bHasCode) codes.push_back(m_usFirstCode);
-  codes.insert(codes.end(), m_rgusMoreCodes.begin(), m_rgusMoreCodes.end());
+  if (m_pGlyphs != nullptr) codes = m_pGlyphs->CodesOf(m_iGlyph);
+  codes.insert(codes.end(), m_rgusAddedCodes.begin(), m_rgusAddedCodes.end());
   return codes;
 }
 
-void CTrueTypeHMtxEntry::AddCode(unsigned short code) {
-  if (m_bHasCode) {
-    m_rgusMoreCodes.push_back(code);
-    return;
-  }
-  m_usFirstCode = code;
-  m_bHasCode = true;
-}
+void CTrueTypeHMtxEntry::AddCode(unsigned short code) { m_rgusAddedCodes.push_back(code); }
 
-CTrueTypeTabHMtx::CTrueTypeTabHMtx(int count)
-    : m_pEntries(new CTrueTypeHMtxEntry[static_cast<std::size_t>(std::max(count, 0))]),
-      m_iCount(std::max(count, 0)) {}
+CTrueTypeTabHMtx::CTrueTypeTabHMtx(int count) : m_pGlyphs(new zeb::TrueTypeGlyphs(count)) {}
 
 CTrueTypeTabHMtx::CTrueTypeTabHMtx(const CTrueTypeTabHMtx& other) = default;
 
-CTrueTypeTabHMtx::~CTrueTypeTabHMtx() {
-  delete[] m_pEntries;
-  delete[] m_pGlyphNames;
-}
+CTrueTypeTabHMtx::~CTrueTypeTabHMtx() { delete m_pGlyphs; }
 
 CTrueTypeTabHMtx& CTrueTypeTabHMtx::operator=(const CTrueTypeTabHMtx& other) = default;
 
-void CTrueTypeTabHMtx::SetGlyphNames(wchar_t* names) { delete[] std::exchange(m_pGlyphNames, names); }
+CTrueTypeHMtxEntry* CTrueTypeTabHMtx::GetEntryAt(int glyph) const { return &m_pGlyphs->RecordAt(glyph); }
+
+int CTrueTypeTabHMtx::GetEntryCount() const { return m_pGlyphs->Count(); }
+
+unsigned int CTrueTypeTabHMtx::GetGlyphOffsetAt(int glyph) const { return m_pGlyphs->OffsetAt(glyph); }

@@ -4,7 +4,13 @@
 
 #include <vector>
 
-/// What is known of one glyph of a TrueType font, from all of its tables.
+namespace zeb {
+class TrueTypeGlyphs;
+class TrueTypeReader;
+}  // namespace zeb
+
+/// What is known of one glyph of a TrueType font, from all of its tables. A record of a font lives as long as its table, and
+/// so do copies of it.
 class ZEB_EXPORT CTrueTypeHMtxEntry {
  public:
   /// In font units.
@@ -14,7 +20,7 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
   short GetLeftSideBearing() const { return m_sLeftSideBearing; }
   void SetLeftSideBearing(short bearing) { m_sLeftSideBearing = bearing; }
   /// From `post`; empty if the table has no names.
-  const wchar_t* GetGlyphName() const { return m_pGlyphName; }
+  const wchar_t* GetGlyphName() const;
   /// Sets the name without copying it: it has to live as long as the entry.
   void SetGlyphName(const wchar_t* name) { m_pGlyphName = name; }
   /// The index of the name in `post` format 2.
@@ -23,7 +29,8 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
   /// The character codes that map to the glyph, in the order in which they were found.
   std::vector<unsigned short> GetCodes() const;
   void AddCode(unsigned short code);
-  /// Negative for a composite glyph.
+  /// Negative for a composite glyph. An empty glyph has this and the box of glyph 0; an empty last one has what the bytes
+  /// behind it say.
   short GetNumberOfContours() const { return m_sNumberOfContours; }
   void SetNumberOfContours(short count) { m_sNumberOfContours = count; }
   /// The glyph's bounding box in font units.
@@ -40,13 +47,15 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
   void SetGlyphOffset(unsigned int offset) { m_uGlyphOffset = offset; }
 
  private:
+  friend class zeb::TrueTypeGlyphs;
+
+  zeb::TrueTypeGlyphs* m_pGlyphs = nullptr;  // observer; null for a record of no font
+  int m_iGlyph = 0;
   unsigned short m_usAdvanceWidth = 0;
   short m_sLeftSideBearing = 0;
-  bool m_bHasCode = false;
-  unsigned short m_usFirstCode = 0;  // of those that map to the glyph
   unsigned short m_usNameIndex = 0;
-  const wchar_t* m_pGlyphName = L"";            // observer
-  std::vector<unsigned short> m_rgusMoreCodes;  // behind the first one, which most glyphs have alone
+  mutable const wchar_t* m_pGlyphName = L"";     // observer; null as long as the font was not asked
+  std::vector<unsigned short> m_rgusAddedCodes;  // behind those of the font
   short m_sNumberOfContours = 0;
   short m_sXMin = 0;
   short m_sYMin = 0;
@@ -57,6 +66,8 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
 
 /// The table `hmtx`: the record of every glyph, indexed by glyph number. A font with more metrics than glyphs has an
 /// empty glyph for each of the metrics that are left over.
+///
+/// An entry is made when it is first asked for, so asking is for one thread at a time.
 ///
 /// The object owns its entries; copies share them, and only one of them may be destroyed.
 class ZEB_EXPORT CTrueTypeTabHMtx {
@@ -70,14 +81,13 @@ class ZEB_EXPORT CTrueTypeTabHMtx {
   CTrueTypeTabHMtx& operator=(const CTrueTypeTabHMtx& other);
 
   /// @param glyph 0 up to the count less one, not checked
-  CTrueTypeHMtxEntry* GetEntryAt(int glyph) const { return m_pEntries + glyph; }
-  int GetEntryCount() const { return m_iCount; }
-
-  /// Keeps the text of names that entries point to. Takes ownership of an array; the earlier one is freed.
-  void SetGlyphNames(wchar_t* names);
+  CTrueTypeHMtxEntry* GetEntryAt(int glyph) const;
+  int GetEntryCount() const;
+  /// Where a glyph begins in `glyf`, in bytes, as its entry says.
+  unsigned int GetGlyphOffsetAt(int glyph) const;
 
  private:
-  CTrueTypeHMtxEntry* m_pEntries;    // owned, shared by copies; one block
-  wchar_t* m_pGlyphNames = nullptr;  // owned, shared by copies
-  int m_iCount;
+  friend class zeb::TrueTypeReader;
+
+  zeb::TrueTypeGlyphs* m_pGlyphs;  // owned, shared by copies
 };

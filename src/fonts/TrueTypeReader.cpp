@@ -5,6 +5,7 @@
 #include "fonts/TrueTypeCollection.h"
 #include "fonts/TrueTypeFile.h"
 #include "fonts/TrueTypeFontMetrics.h"
+#include "fonts/TrueTypeGlyphs.h"
 #include "fonts/TrueTypeHMtx.h"
 #include "fonts/TrueTypeTableReaders.h"
 #include "fonts/TrueTypeTables.h"
@@ -79,8 +80,18 @@ TrueTypeStatus TrueTypeReader::Read() {
   if (status != kTrueTypeDone) return status;
   status = FillMetrics();
   if (status != kTrueTypeDone) return status;
+  KeepGlyphs();
   m_metrics.m_pTTFile = m_pFile.release();
   return kTrueTypeDone;
+}
+
+void TrueTypeReader::KeepGlyphs() const {
+  if (const auto* const mapping = m_metrics.m_pFontData->m_pMapping) {
+    m_pGlyphs->KeepBytes(*mapping);
+  } else {
+    // The font data may go or change while the parsed file stays.
+    m_pGlyphs->MakeAll();
+  }
 }
 
 void TrueTypeReader::ChooseEncodingTable() {
@@ -135,14 +146,14 @@ bool TrueTypeReader::ReadGlyphTables() {
   if (presence == Presence::Absent || file.GetTabHhea() == nullptr || file.GetTabMaxp() == nullptr)
     return true;
   const int metricsCount = file.GetTabHhea()->numberOfHMetrics;
-  const int count = CountGlyphs(in, metricsCount, file.GetTabMaxp()->numGlyphs);
+  const int count = TrueTypeGlyphs::CountIn(in, metricsCount, file.GetTabMaxp()->numGlyphs);
   if (count == 0) return false;
-  auto glyphs = std::make_unique<CTrueTypeTabHMtx>(count);
-  if (!ReadHMtx(in, metricsCount, *glyphs)) return false;
-  file.SetTabHMtx(glyphs.release());
+  file.SetTabHMtx(new CTrueTypeTabHMtx(count));
+  m_pGlyphs = file.GetTabHMtx()->m_pGlyphs;
+  m_pGlyphs->SetMetrics(in, metricsCount);
   return ReadTable<CTrueTypeTabPost>(
       m_bytes, file, "post", &CTrueTypeFile::SetTabPost,
-      [&](ByteReader post, CTrueTypeTabPost& table) { return ReadPost(post, table, *file.GetTabHMtx()); });
+      [&](ByteReader post, CTrueTypeTabPost& table) { return ReadPost(post, table, m_pGlyphs->Names()); });
 }
 
 bool TrueTypeReader::ReadOutlineTables() {
@@ -151,13 +162,16 @@ bool TrueTypeReader::ReadOutlineTables() {
   if (file.GetTabHead() == nullptr || file.GetTabHMtx() == nullptr || glyf == nullptr) return true;
   const bool located = ReadTable<CTrueTypeTabLoca>(
       m_bytes, file, "loca", &CTrueTypeFile::SetTabLoca, [&](ByteReader in, CTrueTypeTabLoca& table) {
-        return ReadLoca(in, file.GetTabHead()->indexToLocFormat == 1, file.GetTabMaxp()->numGlyphs,
-                        glyf->length, *file.GetTabHMtx(), table);
+        const bool longOffsets = file.GetTabHead()->indexToLocFormat == 1;
+        if (!m_pGlyphs->SetLocations(in, longOffsets, file.GetTabMaxp()->numGlyphs, glyf->length))
+          return false;
+        table.endOffset = m_pGlyphs->EndOffset();
+        return true;
       });
   if (!located) return false;
   ByteReader behind;
   if (!m_bytes.Part(glyf->offset, m_bytes.Size() - glyf->offset, behind)) return false;
-  if (file.GetTabLoca() != nullptr) ReadGlyphHeaders(behind, *file.GetTabHMtx());
+  m_pGlyphs->SetHeaders(behind);
   return true;
 }
 

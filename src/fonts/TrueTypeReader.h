@@ -9,11 +9,15 @@
 #include <span>
 #include <string>
 
+class CFontData;
 class CTrueTypeCMap4;
 class CTrueTypeFile;
 class CTrueTypeFontMetrics;
 
 namespace zeb {
+
+class FileMapping;
+class TrueTypeGlyphs;
 
 /// What is asked of a reading; see CFontInformation::ReadTT.
 struct TrueTypeRequest {
@@ -46,7 +50,9 @@ class TrueTypeReader {
   TrueTypeStatus FetchFile();
   TrueTypeStatus FetchInstalledFont();
   TrueTypeStatus FindFontInData();
+  CFontData& MakeFontData();
   std::span<std::byte> MakeRoomForFont(int size);
+  bool TakeMapping(std::shared_ptr<FileMapping> mapping);
 
   // Tables.
   TrueTypeStatus ReadTables();
@@ -54,6 +60,7 @@ class TrueTypeReader {
   bool ReadGlyphTables();
   bool ReadOutlineTables();
   bool CheckCopiedTables() const;
+  void KeepGlyphs() const;
 
   // Metrics.
   TrueTypeStatus FillMetrics();
@@ -62,6 +69,7 @@ class TrueTypeReader {
   void FillHeights();
   void ChooseEncoding(const CTrueTypeCMap4& map);
   void FillWidths(const CTrueTypeCMap4& map);
+  void FillWidthsOfBytes(const CTrueTypeCMap4& map);
   void FillWidthsOfSegments(const CTrueTypeCMap4& map);
   unsigned short WidthOf(int glyph) const;
   void SetWidth(int code, int glyph);
@@ -73,6 +81,7 @@ class TrueTypeReader {
   ByteReader m_bytes;
   std::uint32_t m_uFontOffset = 0;
   std::unique_ptr<CTrueTypeFile> m_pFile;
+  TrueTypeGlyphs* m_pGlyphs = nullptr;  // observer, the file's
 };
 
 }  // namespace zeb

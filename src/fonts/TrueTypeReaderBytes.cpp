@@ -3,6 +3,7 @@
 #include "fonts/TrueTypeFontMetrics.h"
 #include "fonts/TrueTypeReader.h"
 #include "platform/File.h"
+#include "platform/FileMapping.h"
 #include "platform/InstalledFont.h"
 
 #include <algorithm>
@@ -29,22 +30,39 @@ TrueTypeStatus TrueTypeReader::FetchBytes() {
   return m_request.reuseData ? FindFontInData() : kTrueTypeBadArguments;
 }
 
-std::span<std::byte> TrueTypeReader::MakeRoomForFont(int size) {
+CFontData& TrueTypeReader::MakeFontData() {
   CFontData*& data = m_metrics.m_pFontData;
-  if (data == nullptr || data->GetLength() != 0) {
+  if (data == nullptr || data->GetLength() != 0 || !m_metrics.m_bFontDataOwner) {
     // Another font's program, or that of a font that was refused. The pool's data stays the pool's.
     if (m_metrics.m_bFontDataOwner) delete std::exchange(data, nullptr);
     data = new CFontData(false);
     m_metrics.m_bFontDataOwner = true;
     delete std::exchange(m_metrics.m_pSubsetData, nullptr);
   }
-  unsigned char* const room = data->ExtendContent(size);
-  m_bytes = ByteReader(data->GetData(), data->GetLength());
+  return *data;
+}
+
+std::span<std::byte> TrueTypeReader::MakeRoomForFont(int size) {
+  CFontData& data = MakeFontData();
+  unsigned char* const room = data.ExtendContent(size);
+  m_bytes = ByteReader(data.GetData(), data.GetLength());
   return std::as_writable_bytes(std::span(room, static_cast<std::size_t>(size)));
+}
+
+bool TrueTypeReader::TakeMapping(std::shared_ptr<FileMapping> mapping) {
+  if (!mapping || mapping->Bytes().size() > INT_MAX) return false;
+  CFontData& data = MakeFontData();
+  data.AdoptMapping(std::move(mapping));
+  m_bytes = ByteReader(data.GetData(), data.GetLength());
+  return true;
 }
 
 TrueTypeStatus TrueTypeReader::FetchFile() {
   if (*m_request.filePath == L'\0' || m_metrics.m_iFileHandle != -1) return kTrueTypeBadArguments;
+  if (TakeMapping(FileMapping::Open(m_request.filePath, CFontData::kZerosBehindMapping))) {
+    m_metrics.SetFontType(CFontMetrics::FontTypeTrueType);
+    return kTrueTypeDone;
+  }
   InputFile file;
   if (file.Open(m_request.filePath) != FileStatus::Ok || file.Size() == 0) return kTrueTypeUnreadableFile;
   if (file.Size() > INT_MAX) return kTrueTypeNoMemory;
@@ -65,10 +83,12 @@ TrueTypeStatus TrueTypeReader::FetchInstalledFont() {
     return kTrueTypeNotThere;
   if (font.Size() < kSmallestFont) return kTrueTypeNotThere;
   if (font.Size() > INT_MAX) return kTrueTypeNoMemory;
-  const std::span<std::byte> room = MakeRoomForFont(static_cast<int>(font.Size()));
-  if (!font.Read(room)) {
-    std::fill(room.begin(), room.end(), std::byte{0});
-    return kTrueTypeNotThere;
+  if (!TakeMapping(font.Map(CFontData::kZerosBehindMapping))) {
+    const std::span<std::byte> room = MakeRoomForFont(static_cast<int>(font.Size()));
+    if (!font.Read(room)) {
+      std::fill(room.begin(), room.end(), std::byte{0});
+      return kTrueTypeNotThere;
+    }
   }
   std::uint32_t tag = 0;
   if (!ByteReader(m_bytes).ReadU32BE(tag)) return kTrueTypeIncorrect;

@@ -2,7 +2,7 @@
 #include "fonts/TrueTypeCMap.h"
 #include "fonts/TrueTypeFile.h"
 #include "fonts/TrueTypeFontMetrics.h"
-#include "fonts/TrueTypeHMtx.h"
+#include "fonts/TrueTypeGlyphs.h"
 #include "fonts/TrueTypeReader.h"
 #include "fonts/TrueTypeTables.h"
 
@@ -132,54 +132,57 @@ void TrueTypeReader::ChooseEncoding(const CTrueTypeCMap4& map) {
 
 void TrueTypeReader::FillWidths(const CTrueTypeCMap4& map) {
   if (m_request.unicode) {
+    m_metrics.SetFirstChar(map.GetStartCodeAt(0));
+    // Fixed behaviour: the segment before the last one ends the range, also where segments are in no order.
+    m_metrics.SetLastChar(map.GetEndCodeAt(map.GetSegCount() - 2));
     FillWidthsOfSegments(map);
-    return;
+  } else {
+    m_metrics.SetFirstChar(0);
+    m_metrics.SetLastChar(kLastSingleByte);
+    FillWidthsOfBytes(map);
   }
-  m_metrics.SetFirstChar(0);
-  m_metrics.SetLastChar(kLastSingleByte);
+}
+
+void TrueTypeReader::FillWidthsOfBytes(const CTrueTypeCMap4& map) {
+  const bool symbolic = map.GetEncodingID() == kSymbolEncoding;
   const int symbolPage = m_pFile->GetTabOS2()->usFirstCharIndex & 0xFF00;
   for (int code = 0; code <= kLastSingleByte; ++code) {
-    const int meaning = m_metrics.GetSymbolFont() ? symbolPage + code : m_metrics.GetUnicodeAt(code);
+    const int meaning = symbolic ? symbolPage + code : m_metrics.GetUnicodeAt(code);
     SetWidth(code, map.GetGlyph(static_cast<unsigned short>(meaning)));
   }
 }
 
 void TrueTypeReader::FillWidthsOfSegments(const CTrueTypeCMap4& map) {
-  const int count = map.GetSegCount();
-  const int first = map.GetStartCodeAt(0);
-  // Fixed behaviour: the segment before the last one ends the range, also where segments are in no order.
-  const int last = map.GetEndCodeAt(count - 2);
-  m_metrics.SetFirstChar(first);
-  m_metrics.SetLastChar(last);
-  // As codes ascend, the first segment that does not end before the code only moves forward.
-  int segment = 0;
+  const int last = m_metrics.GetLastChar();
   const unsigned short none = WidthOf(0);
-  for (int code = first; code <= last; ++code) {
-    while (segment < count && map.GetEndCodeAt(segment) < code) ++segment;
-    const int glyph = map.GetGlyphOfSegment(segment < count ? segment : 0, static_cast<unsigned short>(code));
-    if (glyph != 0) {
-      SetWidth(code, glyph);
-    } else {
-      m_metrics.m_rgusWidths[code] = none;
-    }
+  const auto fillGap = [&](int first, int end) {
+    if (first < end) std::fill(m_metrics.m_rgusWidths + first, m_metrics.m_rgusWidths + end, none);
+  };
+  // As codes ascend, the first segment that does not end before the code only moves forward.
+  int code = m_metrics.GetFirstChar();
+  for (int segment = 0; segment < map.GetSegCount() && code <= last; ++segment) {
+    const int end = std::min<int>(map.GetEndCodeAt(segment), last) + 1;
+    const int start = std::min<int>(map.GetStartCodeAt(segment), end);
+    fillGap(code, start);
+    for (code = std::max(code, start); code < end; ++code)
+      SetWidth(code, map.GetGlyphOfSegment(segment, static_cast<unsigned short>(code)));
   }
+  // Fixed behaviour: a code behind all segments belongs to segment 0.
+  for (; code <= last; ++code) SetWidth(code, map.GetGlyphOfSegment(0, static_cast<unsigned short>(code)));
 }
 
 unsigned short TrueTypeReader::WidthOf(int glyph) const {
   // Fixed behaviour: truncated, where other values are rounded.
-  const int width =
-      m_pFile->GetTabHMtx()->GetEntryAt(glyph)->GetAdvanceWidth() * 1000 / m_metrics.m_usUnitsPerEm;
-  return static_cast<unsigned short>(width);
+  return static_cast<unsigned short>(m_pGlyphs->AdvanceWidthOf(glyph) * 1000 / m_metrics.m_usUnitsPerEm);
 }
 
 void TrueTypeReader::SetWidth(int code, int glyph) {
-  const CTrueTypeTabHMtx& glyphs = *m_pFile->GetTabHMtx();
   // Fixed behaviour: a glyph behind the last one is the last one.
-  glyph = std::min(glyph, glyphs.GetEntryCount() - 1);
+  glyph = std::min(glyph, m_pGlyphs->Count() - 1);
   m_metrics.m_rgusWidths[code] = WidthOf(glyph);
   if (glyph == 0) return;
   const auto character = static_cast<unsigned short>(code);
-  glyphs.GetEntryAt(glyph)->AddCode(character);
+  m_pGlyphs->AddCode(character, static_cast<std::uint16_t>(glyph));
   m_metrics.AddUnicodeToGlyphIndex(character, static_cast<unsigned short>(glyph));
 }
 

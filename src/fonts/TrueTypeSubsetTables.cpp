@@ -53,7 +53,7 @@ void CopyUnchanged(CFontData& source, const CTrueTypeDirEnt* entry, CFontData& s
 }
 
 unsigned int OffsetOf(const CTrueTypeTabHMtx& hmtx, const CTrueTypeTabLoca& loca, int glyph) {
-  return glyph < hmtx.GetEntryCount() ? hmtx.GetEntryAt(glyph)->GetGlyphOffset() : loca.endOffset;
+  return glyph < hmtx.GetEntryCount() ? hmtx.GetGlyphOffsetAt(glyph) : loca.endOffset;
 }
 
 /// The bytes of a glyph in the source.
