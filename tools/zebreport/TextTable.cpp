@@ -1,5 +1,7 @@
 #include "TextTable.h"
 
+#include "WideCharacters.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -11,6 +13,11 @@ std::wstring OnOneLine(std::wstring cell) {
   std::replace_if(
       cell.begin(), cell.end(), [](wchar_t c) { return c == L'\n' || c == L'\r' || c == L'\t'; }, L' ');
   return cell;
+}
+
+/// In columns of a terminal.
+std::size_t WidthOf(const std::wstring& cell) {
+  return cell.size() + static_cast<std::size_t>(std::count_if(cell.begin(), cell.end(), IsWide));
 }
 
 }  // namespace
@@ -26,13 +33,13 @@ void TextTable::AppendTo(std::wstring& text, int level) const {
   if (m_rows.size() == 1) return;
   std::vector<std::size_t> widths(m_rows.front().size());
   for (const auto& row : m_rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], WidthOf(row[i]));
   }
   for (const auto& row : m_rows) {
     std::wstring line(static_cast<std::size_t>(level) * 2, L' ');
     for (std::size_t i = 0; i < row.size(); ++i) {
       line += row[i];
-      line.append(widths[i] - row[i].size() + 2, L' ');
+      line.append(widths[i] - WidthOf(row[i]) + 2, L' ');
     }
     // No blanks at the end, also where the last cells are empty.
     line.erase(line.find_last_not_of(L' ') + 1);

@@ -5,7 +5,7 @@
 
 namespace zebreport {
 
-/// A table as lines of text: columns of equal width, parted by two spaces, with their titles above.
+/// A table as lines of text: columns of equal width as terminals show it, parted by two spaces, with their titles above.
 class TextTable {
  public:
   explicit TextTable(std::vector<std::wstring> titles);
