@@ -14,13 +14,24 @@ using zebxmln::CXMLNode;
 
 namespace {
 
+/// Longer names are cut for people: a finding repeats them, and there may be many findings.
+constexpr std::size_t kLongestShownName = 60;
+
 std::wstring_view NameOf(const CXMLNode& node) { return XMLTree::NameOf(node).Wide; }
+
+/// The name as a path or a sentence shows it.
+std::wstring ShownNameOf(const CXMLNode& node) {
+  const std::wstring_view name = NameOf(node);
+  std::wstring shown(name.substr(0, kLongestShownName));
+  if (name.size() > kLongestShownName) shown += L'\x2026';
+  return shown;
+}
 
 std::wstring LineOf(const CXMLNode& node) {
   return L"line " + std::to_wstring(XMLTree::PositionOf(node).Line);
 }
 
-std::wstring NameAndLine(const CXMLNode& node) { return std::wstring(NameOf(node)) + L" in " + LineOf(node); }
+std::wstring NameAndLine(const CXMLNode& node) { return ShownNameOf(node) + L" in " + LineOf(node); }
 
 /// Elements of one name under one parent.
 struct Brothers {
@@ -83,7 +94,7 @@ class ChildrenCheck {
   }
 
   static std::wstring StepOf(const CXMLNode& child, const Brothers& brothers) {
-    std::wstring step = L"/" + std::wstring(NameOf(child));
+    std::wstring step = L"/" + ShownNameOf(child);
     if (brothers.All > 1) step += L"[" + std::to_wstring(brothers.Met) + L"]";
     return step;
   }
@@ -117,13 +128,11 @@ class ChildrenCheck {
   }
 
   Reason ReasonOf(CXMLNode** place, const Brothers& brothers) const {
-    const std::wstring name(NameOf(**place));
     if (m_bIsText) {
-      return {ReadingFault::UnknownName,
-              std::wstring(NameOf(m_Parent)) + L" is read as a text without elements"};
+      return {ReadingFault::UnknownName, ShownNameOf(m_Parent) + L" is read as a text without elements"};
     }
-    const auto asked = m_Record.Asked.find(name);
-    if (asked == m_Record.Asked.end()) return ReasonOfUnasked(place, name);
+    const auto asked = m_Record.Asked.find(NameOf(**place));
+    if (asked == m_Record.Asked.end()) return ReasonOfUnasked(place);
     if (brothers.Taken > 0 && IsReadAtOneTime(asked->second))
       return TooMany(brothers.Taken, brothers.LastTaken);
     if (m_rgTaken.empty() || asked->second.LastAsk > m_rgTaken.back().first)
@@ -137,8 +146,8 @@ class ChildrenCheck {
            (asked.LastAskWalk != asked.LastTakingWalk || asked.LastAsk < asked.LastTaking);
   }
 
-  Reason ReasonOfUnasked(CXMLNode** place, const std::wstring& name) const {
-    const std::wstring parent(NameOf(m_Parent));
+  Reason ReasonOfUnasked(CXMLNode** place) const {
+    const std::wstring parent = ShownNameOf(m_Parent);
     if (!m_Record.Missing.empty()) {
       const std::wstring missing(m_Record.Missing);
       if (place > m_Record.MissingPlace) {
@@ -146,14 +155,14 @@ class ChildrenCheck {
                                               L" in the place of " + NameAndLine(**m_Record.MissingPlace)};
       }
     }
-    return {ReadingFault::UnknownName, L"nothing reads " + name + L" in " + parent};
+    return {ReadingFault::UnknownName, L"nothing reads " + ShownNameOf(**place) + L" in " + parent};
   }
 
   /// The name was asked for when all that was taken in front of it had been taken: the cursor stood elsewhere.
   Reason ReasonOfLate(CXMLNode** place, const AskedName& asked) const {
     if (asked.LastPlace < place) {
       return {ReadingFault::NotReached,
-              NameAndLine(**asked.LastPlace) + L" ends the reading of " + std::wstring(NameOf(m_Parent))};
+              NameAndLine(**asked.LastPlace) + L" ends the reading of " + ShownNameOf(m_Parent)};
     }
     CXMLNode** const behind = (asked.FirstPlace > place ? asked.FirstPlace : asked.LastPlace) - 1;
     if (behind <= place) return {ReadingFault::OutOfOrder, L"its place is further behind"};
@@ -188,6 +197,23 @@ struct OpenElement {
   std::wstring Path;
 };
 
+std::pair<unsigned int, unsigned int> PlaceOf(const CXMLNode& node) {
+  const XMLPosition position = XMLTree::PositionOf(node);
+  return {position.Line, position.Column};
+}
+
+/// The place of the last element, in file order, that was looked at: read, or asked for its name.
+std::pair<unsigned int, unsigned int> LastPlaceLookedAt(const ReadingNotes& notes) {
+  std::pair<unsigned int, unsigned int> last(0, 0);
+  for (const auto& [element, read] : notes.Elements) last = std::max(last, PlaceOf(*element));
+  for (const auto& [record, walked] : notes.Records) {
+    for (const auto& [name, asked] : walked.Asked) {
+      if (*asked.LastPlace != nullptr) last = std::max(last, PlaceOf(**asked.LastPlace));
+    }
+  }
+  return last;
+}
+
 ReadingFinding MakeFinding(const CXMLNode& node, std::wstring path, ReadingFault fault, std::wstring text) {
   const XMLPosition position = XMLTree::PositionOf(node);
   return {position.Line, position.Column, std::move(path), fault, std::move(text)};
@@ -195,15 +221,16 @@ ReadingFinding MakeFinding(const CXMLNode& node, std::wstring path, ReadingFault
 
 }  // namespace
 
-std::vector<ReadingFinding> FindUnread(const CXMLNode& root, const ReadingNotes& notes) {
+std::vector<ReadingFinding> FindUnread(const CXMLNode& root, const ReadingNotes& notes, bool isComplete) {
   std::vector<ReadingFinding> findings;
-  std::vector<OpenElement> open{{&root, L"/" + std::wstring(NameOf(root))}};
+  std::vector<OpenElement> open{{&root, L"/" + ShownNameOf(root)}};
   while (!open.empty()) {
     const OpenElement element = std::move(open.back());
     open.pop_back();
     if (const auto note = notes.Identifiers.find(element.Node); note != notes.Identifiers.end()) {
       const IdentifierNote& identifier = note->second;
-      if (!identifier.Awaited || !notes.RecordIDs.contains(*identifier.Awaited)) {
+      // Of a reading that was broken off, the awaited record may be in the part that was not read.
+      if (!identifier.Awaited || (isComplete && !notes.RecordIDs.contains(*identifier.Awaited))) {
         findings.push_back(MakeFinding(*element.Node, element.Path, identifier.Fault, identifier.Text));
       }
     }
@@ -218,6 +245,11 @@ std::vector<ReadingFinding> FindUnread(const CXMLNode& root, const ReadingNotes&
             open.push_back({&child, element.Path + step});
           }
         });
+  }
+  if (!isComplete) {
+    std::erase_if(findings, [last = LastPlaceLookedAt(notes)](const ReadingFinding& finding) {
+      return std::pair(finding.Line, finding.Column) > last;
+    });
   }
   std::stable_sort(findings.begin(), findings.end(),
                    [](const ReadingFinding& first, const ReadingFinding& second) {

@@ -18,7 +18,10 @@ struct ReadingFinding {
 };
 
 /// What the notes of a reading say about the elements of its document, in file order. Of an element that was left out,
-/// only it is told and not what is in it.
-std::vector<ReadingFinding> FindUnread(const zebxmln::CXMLNode& root, const ReadingNotes& notes);
+/// only it is told and not what is in it. Long names of elements are cut.
+/// @param isComplete whether the reading went through: of one that was broken off, nothing is said of elements behind the
+///   last one that it looked at, nor of records that may be there
+std::vector<ReadingFinding> FindUnread(const zebxmln::CXMLNode& root, const ReadingNotes& notes,
+                                       bool isComplete);
 
 }  // namespace zeb

@@ -59,7 +59,8 @@ struct ReadingNotes {
   std::unordered_map<const zebxmln::CXMLNode*, ReadElement> Elements;
   std::unordered_map<const zebxmln::CXMLNode*, WalkedRecord> Records;
   std::unordered_map<const zebxmln::CXMLNode*, IdentifierNote> Identifiers;
-  std::set<int> RecordIDs;  // of the records that were read
+  std::set<int> RecordIDs;                                // of the objects whose records were read
+  std::map<int, const zebxmln::CXMLNode*> LoadedRecords;  // by the identifiers with which they begin
 
   const ReadElement* Find(const zebxmln::CXMLNode* node) const {
     const auto found = Elements.find(node);

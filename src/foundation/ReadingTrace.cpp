@@ -2,6 +2,7 @@
 
 #include "foundation/XMLTree.h"
 
+#include <exception>
 #include <new>
 #include <string>
 #include <utility>
@@ -46,7 +47,7 @@ void RecordWalk::Miss(ElementName name, CXMLNode** place) {
 
 ReadingTrace* ReadingTrace::s_pActive = nullptr;
 
-ReadingTrace::ReadingTrace() { s_pActive = this; }
+ReadingTrace::ReadingTrace() : m_iExceptions(std::uncaught_exceptions()) { s_pActive = this; }
 
 ReadingTrace::~ReadingTrace() { s_pActive = nullptr; }
 
@@ -62,7 +63,8 @@ void ReadingTrace::BeginDocument(const CXMLNode* root) {
 void ReadingTrace::EndDocument(const CXMLNode* root) noexcept {
   if (root == nullptr || root != m_pRoot) return;
   try {
-    m_rgFindings = FindUnread(*root, m_Notes);
+    // A document that ends while an exception is on its way was not read to its end.
+    m_rgFindings = FindUnread(*root, m_Notes, std::uncaught_exceptions() == m_iExceptions);
   } catch (const std::bad_alloc&) {
     m_bOutOfMemory = true;
   }
@@ -102,9 +104,21 @@ void ReadingTrace::NoteRefusedRecord(const CXMLNode& record, ElementName identif
   AddIdentifierNote(&record, {ReadingFault::IdentifierWithoutObject, text, std::nullopt});
 }
 
+void ReadingTrace::NoteLoadedRecord(const CXMLNode& record, int id) {
+  if (!IsListenedTo(record)) return;
+  const auto [first, isNew] = m_Notes.LoadedRecords.emplace(id, &record);
+  if (isNew) return;
+  const XMLPosition place = XMLTree::PositionOf(*first->second);
+  AddIdentifierNote(&record, {ReadingFault::SecondOccurrence,
+                              std::wstring(XMLTree::NameOf(*first->second).Wide) + L" in line " +
+                                  std::to_wstring(place.Line) + L" has the identifier " +
+                                  std::to_wstring(id) + L" too, and what this one says replaces it",
+                              std::nullopt});
+}
+
 void ReadingTrace::NoteReference(int id) {
   AddIdentifierNote(m_pRead, {ReadingFault::IdentifierWithoutObject,
-                              L"no record has the identifier " + std::to_wstring(id), id});
+                              L"no record that is read has the identifier " + std::to_wstring(id), id});
 }
 
 void ReadingTrace::NoteWrongReference(int id) {
@@ -115,10 +129,10 @@ void ReadingTrace::NoteWrongReference(int id) {
 }
 
 void ReadingTrace::NoteSecondReference(int id) {
-  AddIdentifierNote(m_pRead, {ReadingFault::SecondOccurrence,
-                              L"the object with the identifier " + std::to_wstring(id) +
-                                  L" belongs to another element already",
-                              std::nullopt});
+  AddIdentifierNote(
+      m_pRead,
+      {ReadingFault::SecondOccurrence,
+       L"the object with the identifier " + std::to_wstring(id) + L" is in a list already", std::nullopt});
 }
 
 void ReadingTrace::AddIdentifierNote(const CXMLNode* element, IdentifierNote note) {

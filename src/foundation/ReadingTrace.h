@@ -45,7 +45,8 @@ class ReadingTrace {
   /// The one that listens, null if none does.
   static ReadingTrace* Active() { return s_pActive; }
 
-  /// What was left out, in file order. Complete once the document has ended.
+  /// What was left out, in file order. Complete once the document has ended. Of a document that an exception has ended,
+  /// what was left out up to the last element that was looked at.
   /// @throws std::bad_alloc if there was no memory to collect it
   const std::vector<ReadingFinding>& Findings() const;
 
@@ -62,6 +63,8 @@ class ReadingTrace {
 
   /// A record has this identifier for its own.
   void NoteRecord(int id) { m_Notes.RecordIDs.insert(id); }
+  /// A record was read into the object of its identifier.
+  void NoteLoadedRecord(const zebxmln::CXMLNode& record, int id);
   /// A record was left out because no object of its class has its identifier.
   /// @param id nothing if the record does not begin with the identifier
   void NoteRefusedRecord(const zebxmln::CXMLNode& record, ElementName identifier, std::optional<int> id);
@@ -78,6 +81,7 @@ class ReadingTrace {
 
   static ReadingTrace* s_pActive;  // observer
 
+  int m_iExceptions;  // on their way when the trace began
   bool m_bHasBegun = false;
   bool m_bOutOfMemory = false;
   const zebxmln::CXMLNode* m_pRoot = nullptr;  // observer: as long as the document lives

@@ -57,11 +57,11 @@ void ReadRelations(zeb::RecordReader& reader, CIDManager& ids, CPlaceable* paper
   while (zebxmln::CXMLNode* record = reader.Take(kPlRel)) {
     const auto id = zeb::ReadRecordIdentifier(record, zeb::IdentifierPlace::FirstChild, kPlRelID);
     auto* relation = id ? zeb::FindObject<CPlaceableRelation>(binding, *id) : nullptr;
-    if (relation == nullptr) {
-      if (zeb::ReadingTrace* trace = zeb::ReadingTrace::Active())
-        trace->NoteRefusedRecord(*record, kPlRelID, id);
-      continue;
+    if (zeb::ReadingTrace* trace = zeb::ReadingTrace::Active()) {
+      if (relation == nullptr) trace->NoteRefusedRecord(*record, kPlRelID, id);
+      if (relation != nullptr) trace->NoteLoadedRecord(*record, *id);
     }
+    if (relation == nullptr) continue;
     relation->Load(record, ids);
     if (relation->GetRelationObject() == nullptr) relation->SetRelationObject(paper);
   }

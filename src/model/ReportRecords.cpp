@@ -62,11 +62,11 @@ class RecordGroups {
   T* Load(const RecordName& name, zebxmln::CXMLNode* record) {
     const auto id = ReadRecordIdentifier(record, name.Place, name.Identifier);
     T* object = id ? FindExactObject<T>(m_Binding, *id) : nullptr;
-    if (object != nullptr) {
-      object->Load(record, m_IDs);
-    } else if (ReadingTrace* trace = ReadingTrace::Active()) {
-      trace->NoteRefusedRecord(*record, name.Identifier, id);
+    if (ReadingTrace* trace = ReadingTrace::Active()) {
+      if (object == nullptr) trace->NoteRefusedRecord(*record, name.Identifier, id);
+      if (object != nullptr) trace->NoteLoadedRecord(*record, *id);
     }
+    if (object != nullptr) object->Load(record, m_IDs);
     return object;
   }
 

@@ -163,7 +163,7 @@ TEST_F(ReadingTraceTest, ForgetsAReferenceWhoseRecordFollows) {
   ASSERT_EQ(trace.Findings().size(), 1U);
   EXPECT_EQ(trace.Findings().front().Path, L"/R/B");
   EXPECT_EQ(trace.Findings().front().Fault, ReadingFault::IdentifierWithoutObject);
-  EXPECT_EQ(trace.Findings().front().Text, L"no record has the identifier 2");
+  EXPECT_EQ(trace.Findings().front().Text, L"no record that is read has the identifier 2");
 }
 
 // A hundred thousand elements of one name behind one that ends the reading: time grows with their number, not its square.

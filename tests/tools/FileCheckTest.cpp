@@ -43,6 +43,11 @@ class FileCheck : public testing::Test {
  protected:
   /// Checks a file with this text, which begins behind the first line end.
   std::vector<Finding> Check(const std::string& text) {
+    const zebreport::CheckedFile checked = CheckWhole(text);
+    EXPECT_FALSE(checked.failure.has_value());
+    return checked.findings;
+  }
+  zebreport::CheckedFile CheckWhole(const std::string& text) {
     zebtest::WriteFile(m_Folder.File("file.xml"), text.substr(1));
     return zebreport::CheckFile(m_Folder.WideFile("file.xml"));
   }
@@ -113,17 +118,18 @@ TEST_F(FileCheck, Planted04OutOfOrderFurtherBehind) {
 }
 
 TEST_F(FileCheck, Planted05RecordInTheWrongGroup) {
-  EXPECT_THAT(Check(R"(
+  EXPECT_THAT(
+      Check(R"(
 <ReportRootElement>
   <ReportDocument><ZoneID>1</ZoneID></ReportDocument>
   <ReportZone><ZoneID>1</ZoneID><TxID>2</TxID><VHID>3</VHID></ReportZone>
   <Text><TxID>2</TxID></Text>
   <ValueHolder><VHID>3</VHID></ValueHolder>
 </ReportRootElement>)"),
-              ElementsAre(Finding{3, 47, L"/ReportRootElement/ReportZone/VHID",
-                                  Fault::IdentifierWithoutObject, L"no record has the identifier 3"},
-                          Finding{5, 3, L"/ReportRootElement/ValueHolder", Fault::OutOfOrder,
-                                  L"stands behind Text in line 4, belongs before it"}));
+      ElementsAre(Finding{3, 47, L"/ReportRootElement/ReportZone/VHID", Fault::IdentifierWithoutObject,
+                          L"no record that is read has the identifier 3"},
+                  Finding{5, 3, L"/ReportRootElement/ValueHolder", Fault::OutOfOrder,
+                          L"stands behind Text in line 4, belongs before it"}));
 }
 
 TEST_F(FileCheck, Planted06SecondOccurrence) {
@@ -193,7 +199,8 @@ TEST_F(FileCheck, Planted10RecordWithoutItsIdentifier) {
 }
 
 TEST_F(FileCheck, Planted11ReferenceToARecordThatIsMissing) {
-  EXPECT_THAT(Check(R"(
+  EXPECT_THAT(
+      Check(R"(
 <ReportRootElement>
   <ReportDocument><ZoneID>1</ZoneID></ReportDocument>
   <ReportZone>
@@ -201,8 +208,8 @@ TEST_F(FileCheck, Planted11ReferenceToARecordThatIsMissing) {
     <PicID>7</PicID>
   </ReportZone>
 </ReportRootElement>)"),
-              ElementsAre(Finding{5, 5, L"/ReportRootElement/ReportZone/PicID",
-                                  Fault::IdentifierWithoutObject, L"no record has the identifier 7"}));
+      ElementsAre(Finding{5, 5, L"/ReportRootElement/ReportZone/PicID", Fault::IdentifierWithoutObject,
+                          L"no record that is read has the identifier 7"}));
 }
 
 TEST_F(FileCheck, Planted12TieToAnObjectThatIsMissing) {
@@ -215,7 +222,7 @@ TEST_F(FileCheck, Planted12TieToAnObjectThatIsMissing) {
     <RectID>9</RectID></PlRel>
 </ReportRootElement>)"),
               ElementsAre(Finding{6, 5, L"/ReportRootElement/PlRel/RectID", Fault::IdentifierWithoutObject,
-                                  L"no record has the identifier 9"}));
+                                  L"no record that is read has the identifier 9"}));
 }
 
 TEST_F(FileCheck, Planted13TieThatNoObjectNames) {
@@ -252,7 +259,7 @@ TEST_F(FileCheck, Planted15ObjectInTwoZones) {
   <Text><TxID>5</TxID></Text>
 </ReportRootElement>)"),
               ElementsAre(Finding{4, 33, L"/ReportRootElement/ReportZone[2]/TxID", Fault::SecondOccurrence,
-                                  L"the object with the identifier 5 belongs to another element already"}));
+                                  L"the object with the identifier 5 is in a list already"}));
 }
 
 TEST_F(FileCheck, Planted16ElementInsideAText) {
@@ -327,6 +334,126 @@ TEST_F(FileCheck, Planted20NameOfTheOtherGeneration) {
           4, 5, L"/ReportTypeRootElement/ReportTypeZone/InternalReportTypeZoneName", Fault::UnknownName,
           L"nothing reads InternalReportTypeZoneName in ReportTypeZone; files of another VersionNr "
           L"have that name, so mend the VersionNr or the name"}));
+}
+
+TEST_F(FileCheck, ObjectTwiceInOneZone) {
+  EXPECT_THAT(Check(R"(
+<ReportRootElement>
+  <ReportDocument><ZoneID>1</ZoneID></ReportDocument>
+  <ReportZone><ZoneID>1</ZoneID><TxID>5</TxID>
+    <TxID>5</TxID></ReportZone>
+  <Text><TxID>5</TxID></Text>
+</ReportRootElement>)"),
+              ElementsAre(Finding{4, 5, L"/ReportRootElement/ReportZone/TxID[2]", Fault::SecondOccurrence,
+                                  L"the object with the identifier 5 is in a list already"}));
+}
+
+TEST_F(FileCheck, TwoRecordsOfOneIdentifier) {
+  EXPECT_THAT(
+      Check(R"(
+<ReportRootElement>
+  <ReportDocument><ZoneID>1</ZoneID></ReportDocument>
+  <ReportZone><ZoneID>1</ZoneID><TxID>5</TxID><VHID>6</VHID></ReportZone>
+  <ValueHolder><VHID>6</VHID><Text><TxID>6</TxID><Placeable><PlRelID>7</PlRelID></Placeable></Text></ValueHolder>
+  <Text><TxID>5</TxID><TextContent>a</TextContent></Text>
+  <Text><TxID>5</TxID><TextContent>b</TextContent></Text>
+  <PlRel><PlRelID>7</PlRelID><TxID>5</TxID></PlRel>
+  <PlRel><PlRelID>7</PlRelID><TxID>5</TxID></PlRel>
+</ReportRootElement>)"),
+      ElementsAre(Finding{6, 3, L"/ReportRootElement/Text[2]", Fault::SecondOccurrence,
+                          L"Text in line 5 has the identifier 5 too, and what this one says replaces it"},
+                  Finding{8, 3, L"/ReportRootElement/PlRel[2]", Fault::SecondOccurrence,
+                          L"PlRel in line 7 has the identifier 7 too, and what this one says replaces it"}));
+}
+
+TEST_F(FileCheck, TwoTiesOfOneIdentifierOnAPage) {
+  EXPECT_THAT(
+      Check(R"(
+<ReportLayout>
+  <VersionNr>3</VersionNr>
+  <ReportLayoutID>0</ReportLayoutID>
+  <LayoutPage><LayoutRect/><LayoutRect/>
+    <Line><LineID>1</LineID><Placeable><PlID>1</PlID><PlRelID>2</PlRelID></Placeable></Line>
+    <PlRel><PlRelID>2</PlRelID></PlRel>
+    <PlRel><PlRelID>2</PlRelID></PlRel>
+  </LayoutPage>
+</ReportLayout>)"),
+      ElementsAre(Finding{7, 5, L"/ReportLayout/LayoutPage/PlRel[2]", Fault::SecondOccurrence,
+                          L"PlRel in line 6 has the identifier 2 too, and what this one says replaces it"}));
+}
+
+// A name of 61 characters stands as 60 and an ellipsis, one of 60 as it is. The full names are those that count: both
+// long ones begin alike and are different.
+TEST_F(FileCheck, CutsLongNames) {
+  const std::string name(60, 'a');
+  const std::wstring shown(60, L'a');
+  EXPECT_THAT(
+      Check("\n<" + name + "x>\n<ReportDocument><" + name + "/>\n<" + name + "y/>\n<" + name +
+            "z/></ReportDocument></" + name + "x>"),
+      ElementsAre(Finding{2, 17, L"/" + shown + L"\x2026/ReportDocument/" + shown, Fault::UnknownName,
+                          L"nothing reads " + shown + L" in ReportDocument"},
+                  Finding{3, 1, L"/" + shown + L"\x2026/ReportDocument/" + shown + L"\x2026",
+                          Fault::UnknownName, L"nothing reads " + shown + L"\x2026 in ReportDocument"},
+                  Finding{4, 1, L"/" + shown + L"\x2026/ReportDocument/" + shown + L"\x2026",
+                          Fault::UnknownName, L"nothing reads " + shown + L"\x2026 in ReportDocument"}));
+}
+
+// Twenty thousand letters in the path of each of 1,500 findings would be 60 MB.
+TEST_F(FileCheck, SaysLittleOfALongNameAboveManyFaults) {
+  const std::string name(20000, 'a');
+  std::string text = "\n<" + name + "><ReportDocument/>";
+  for (int i = 0; i < 1500; ++i) text += "<Bad/>";
+  std::size_t length = 0;
+  for (const Finding& finding : Check(text + "</" + name + ">")) {
+    length += finding.Path.size() + finding.Text.size();
+  }
+  EXPECT_GT(length, 1500U * 60);
+  EXPECT_LT(length, 1500U * 400);
+}
+
+// -------------------------------------------------------------------------------------------- loading that fails
+
+// The cursor of the font's record stands at Encodng, so that its type is not read and its program is looked for. Flags
+// is behind it and FontType has been looked at in front, so both can be judged; what is behind that cannot, nor can
+// the text, whose record may follow.
+TEST_F(FileCheck, TellsWhatWasLeftOutInFrontOfAFailure) {
+  const zebreport::CheckedFile checked = CheckWhole(R"(
+<ReportRootElement>
+  <VersionNr>1</VersionNr>
+  <ReportDocument>
+    <ZoneID>1</ZoneID>
+    <FontInformation>
+      <BaseFont>No Such Face</BaseFont>
+      <Encodng>winansi1252</Encodng>
+      <Flags>32</Flags>
+      <FontType>0</FontType>
+      <TTName/>
+    </FontInformation>
+    <Bad/>
+  </ReportDocument>
+  <Bad/>
+</ReportRootElement>)");
+  EXPECT_THAT(
+      checked.findings,
+      ElementsAre(Finding{7, 7, L"/ReportRootElement/ReportDocument/FontInformation/Encodng",
+                          Fault::UnknownName, L"nothing reads Encodng in FontInformation"},
+                  Finding{8, 7, L"/ReportRootElement/ReportDocument/FontInformation/Flags", Fault::NotReached,
+                          L"Encodng in line 7 ends the reading of FontInformation"}));
+  ASSERT_TRUE(checked.failure.has_value());
+}
+
+TEST_F(FileCheck, SaysNothingOfRecordsBehindAFailure) {
+  const zebreport::CheckedFile checked = CheckWhole(R"(
+<ReportRootElement>
+  <ReportDocument><ZoneID>1</ZoneID></ReportDocument>
+  <ReportZone><ZoneID>1</ZoneID><TxID>2</TxID><PicID>3</PicID><Bad/></ReportZone>
+  <Picture><PicID>3</PicID><PictureDataLength>2000000000</PictureDataLength>
+    <PictureData><BinaryData>AAAA</BinaryData></PictureData><Bad/></Picture>
+  <Text><TxID>2</TxID></Text>
+</ReportRootElement>)");
+  EXPECT_THAT(checked.findings, ElementsAre(Finding{3, 63, L"/ReportRootElement/ReportZone/Bad",
+                                                    Fault::UnknownName, L"nothing reads Bad in ReportZone"}));
+  EXPECT_TRUE(checked.failure.has_value());
 }
 
 // ------------------------------------------------------------------------------------------------------- other kinds
@@ -437,9 +564,9 @@ TEST_F(FileCheck, SaysNothingOfReportsThatTheLibraryWrote) {
       loaded.Root().SaveReport(report.c_str(), layout.c_str());
       loaded.Root().SaveValueHolders(list.c_str());
     }
-    EXPECT_THAT(zebreport::CheckFile(report), IsEmpty());
-    EXPECT_THAT(zebreport::CheckFile(layout), IsEmpty());
-    EXPECT_THAT(zebreport::CheckFile(list), IsEmpty());
+    EXPECT_THAT(zebreport::CheckFile(report).findings, IsEmpty());
+    EXPECT_THAT(zebreport::CheckFile(layout).findings, IsEmpty());
+    EXPECT_THAT(zebreport::CheckFile(list).findings, IsEmpty());
   }
 }
 
@@ -452,7 +579,7 @@ TEST_F(FileCheck, SaysNothingOfTiesOfPageCells) {
     loaded.LoadExactly(data / "lonely" / "report.xml", data / "lonely" / "cells.xml");
     loaded.Root().SaveReport(nullptr, m_Folder.WideFile("layout.xml").c_str());
   }
-  EXPECT_THAT(zebreport::CheckFile(m_Folder.WideFile("layout.xml")), IsEmpty());
+  EXPECT_THAT(zebreport::CheckFile(m_Folder.WideFile("layout.xml")).findings, IsEmpty());
 }
 
 TEST_F(FileCheck, SaysNothingOfTiesOfDefinedFormulas) {
@@ -468,7 +595,7 @@ TEST_F(FileCheck, SaysNothingOfTiesOfDefinedFormulas) {
     report.SaveReport(file.c_str(), nullptr);
   }
   EXPECT_THAT(zebtest::ReadFile(m_Folder.File("report.xml")), testing::HasSubstr("<PlRelID>"));
-  EXPECT_THAT(zebreport::CheckFile(file), IsEmpty());
+  EXPECT_THAT(zebreport::CheckFile(file).findings, IsEmpty());
 }
 
 TEST_F(FileCheck, SaysNothingOfOtherFilesThatTheLibraryWrote) {
@@ -477,18 +604,18 @@ TEST_F(FileCheck, SaysNothingOfOtherFilesThatTheLibraryWrote) {
   CReportType type;
   type.LoadReportType(zebtest::WidePath(catalogue / "reporttype.xml").c_str());
   type.SaveReportType(file.c_str());
-  EXPECT_THAT(zebreport::CheckFile(file), IsEmpty());
+  EXPECT_THAT(zebreport::CheckFile(file).findings, IsEmpty());
   CReportDescriptions descriptions;
   descriptions.LoadReportDescriptions(zebtest::WidePath(catalogue / "descriptions.xml").c_str());
   descriptions.SaveReportDescriptions(file.c_str());
-  EXPECT_THAT(zebreport::CheckFile(file), IsEmpty());
+  EXPECT_THAT(zebreport::CheckFile(file).findings, IsEmpty());
   CFontPool& pool = CFontPool::GetInstance();
   unsigned char program[] = {1, 2, 3};
   pool.SetFontPoolPath(m_Folder.WidePath().c_str());
   pool.SetFontData(L"Font", L"Family", 700, true, program, 3, {L"Schrift", L"Police"});
   pool.SetFontPoolPath(L"");
   pool.DeleteFontPool();
-  EXPECT_THAT(zebreport::CheckFile(m_Folder.WideFile("Font.fd")), IsEmpty());
+  EXPECT_THAT(zebreport::CheckFile(m_Folder.WideFile("Font.fd")).findings, IsEmpty());
 }
 
 TEST_F(FileCheck, SaysNothingOfFilesThatAreOnlyWritten) {

@@ -2,6 +2,7 @@
 #include "FileCheck.h"
 #include "JsonWriter.h"
 #include "TypeCheck.h"
+#include "Utf8.h"
 
 namespace zebreport {
 
@@ -33,13 +34,12 @@ void WriteText(const std::wstring& file, const std::vector<zeb::ReadingFinding>&
   }
 }
 
-void WriteJson(const std::wstring& file, const std::vector<zeb::ReadingFinding>& findings,
-               std::wstring& output) {
+void WriteJson(const std::wstring& file, const CheckedFile& checked, std::wstring& output) {
   JsonWriter json(output);
   json.BeginObject();
   json.Key(L"file").String(file);
   json.Key(L"findings").BeginArray();
-  for (const zeb::ReadingFinding& finding : findings) {
+  for (const zeb::ReadingFinding& finding : checked.findings) {
     json.BeginObject();
     json.Key(L"line").Integer(static_cast<int>(finding.Line));
     json.Key(L"column").Integer(static_cast<int>(finding.Column));
@@ -49,6 +49,8 @@ void WriteJson(const std::wstring& file, const std::vector<zeb::ReadingFinding>&
     json.End();
   }
   json.End();
+  json.Key(L"failure");
+  checked.failure.has_value() ? json.String(FromUtf8(checked.failure->what())) : json.Null();
   json.End();
 }
 
@@ -59,13 +61,14 @@ int RunCheck(ArgumentReader& arguments, std::wstring& output) {
     return RunTypeCheck(arguments, type->front(), output);
   const bool isJson = arguments.TakeOption(L"--json", 0).has_value();
   const std::wstring file = arguments.TakeRest({L"file"}).front();
-  const std::vector<zeb::ReadingFinding> findings = CheckFile(file);
+  const CheckedFile checked = CheckFile(file);
   if (isJson) {
-    WriteJson(file, findings, output);
+    WriteJson(file, checked, output);
   } else {
-    WriteText(file, findings, output);
+    WriteText(file, checked.findings, output);
   }
-  return findings.empty() ? 0 : kSomethingLeftOut;
+  if (checked.failure.has_value()) throw Failure(*checked.failure);
+  return checked.findings.empty() ? 0 : kSomethingLeftOut;
 }
 
 }  // namespace zebreport

@@ -1,6 +1,5 @@
 #include "FileCheck.h"
 
-#include "Failure.h"
 #include "LoadedReport.h"
 #include "ZEBReportDocument.h"
 #include "fonts/FontPool.h"
@@ -64,9 +63,21 @@ bool HasChild(zebxmln::CXMLNode& root, std::wstring_view name) {
   return false;
 }
 
+Failure FailureOf(const std::wstring& file, const zebxmln::CXMLException& exception) {
+  return LibraryFailure(file, CKXXMLException(exception.GetErrorCode(), exception.GetErrorMessage()));
+}
+
+zeb::XMLFile LoadDocument(const std::wstring& file) {
+  try {
+    return zeb::XMLFile::Load(file.c_str());
+  } catch (const zebxmln::CXMLException& exception) {
+    throw FailureOf(file, exception);
+  }
+}
+
 /// The kind that the root's name says. No loading asks for that name, so what is in a root of another name counts too.
 const FileKind& KindOf(const std::wstring& file) {
-  const zeb::XMLFile document = zeb::XMLFile::Load(file.c_str());
+  const zeb::XMLFile document = LoadDocument(file);
   zebxmln::CXMLNode& root = *document.Root();
   const std::wstring_view name = root.GetNodeName();
   for (const FileKind& kind : kKinds) {
@@ -119,20 +130,27 @@ void ExplainGeneration(const FileKind& kind, std::vector<zeb::ReadingFinding>& f
 
 }  // namespace
 
-std::vector<zeb::ReadingFinding> CheckFile(const std::wstring& file) {
+CheckedFile CheckFile(const std::wstring& file) {
+  const FileKind& kind = KindOf(file);
+  if (kind.Load == nullptr) return {};
+  CheckedFile checked;
+  const zeb::ReadingTrace trace;
   try {
-    const FileKind& kind = KindOf(file);
-    if (kind.Load == nullptr) return {};
-    const zeb::ReadingTrace trace;
     kind.Load(file);
-    std::vector<zeb::ReadingFinding> findings = trace.Findings();
-    ExplainGeneration(kind, findings);
-    return findings;
   } catch (const zebxmln::CXMLException& exception) {
-    throw LibraryFailure(file, CKXXMLException(exception.GetErrorCode(), exception.GetErrorMessage()));
+    checked.failure = FailureOf(file, exception);
   } catch (const CKXException& exception) {
-    throw LibraryFailure(file, exception);
+    checked.failure = LibraryFailure(file, exception);
   }
+  checked.findings = trace.Findings();
+  ExplainGeneration(kind, checked.findings);
+  return checked;
+}
+
+bool LoadsWhole(const std::function<void()>& load) {
+  const zeb::ReadingTrace trace;
+  load();
+  return trace.Findings().empty();
 }
 
 }  // namespace zebreport
