@@ -1,46 +1,74 @@
 #include "CatalogueFiles.h"
 
 #include "Failure.h"
+#include "FileCheck.h"
 
 namespace zebreport {
 
 namespace {
 
-/// The name of a file's root element. The library reads any; it helps to tell files apart that gave nothing.
-std::wstring RootName(const std::wstring& file) {
+constexpr int kGenerationOfFilesWithoutNumber = 2;
+
+/// What a file says of itself, which the library does not tell.
+struct RootOfFile {
+  std::wstring
+      name;  ///< of the root element. The library reads any; it helps to tell files apart that gave nothing
+  int generation = kGenerationOfFilesWithoutNumber;
+};
+
+RootOfFile ReadRoot(const std::wstring& file) {
   zebxmln::CXMLDocument* document =
       zebxmln::CXMLManager::GetInstance().LoadDocument(file.c_str(), true, false, nullptr, false, false);
-  std::wstring name = document->GetRootNode()->GetNodeName();
+  RootOfFile root;
+  root.name = document->GetRootNode()->GetNodeName();
+  zebxmln::CXMLNode* const first = document->GetRootNode()->GetFirstChildNode();
+  if (first != nullptr && std::wstring(first->GetNodeName()) == L"VersionNr") {
+    root.generation = StringToInt(first->GetNodeText());
+  }
   document->DestroyDocument();
-  return name;
+  return root;
 }
 
-void RequireRoot(const std::wstring& file, const std::wstring& root, const std::wstring& kind) {
-  const std::wstring name = RootName(file);
-  if (name == root) return;
-  throw Failure(file + L": there is no " + kind + L" in it but a " + name + L"; name a " + kind + L" file.");
+/// Loads a file and tells its generation.
+/// @param holdsSomething whether the loading has found anything
+template <class Load, class HoldsSomething>
+int LoadCatalogue(const std::wstring& file, const std::wstring& rootName, const std::wstring& kind, Load load,
+                  HoldsSomething holdsSomething) {
+  bool isReadWhole = true;
+  try {
+    isReadWhole = LoadsWhole(load);
+  } catch (const CKXException& exception) {
+    throw LibraryFailure(file, exception);
+  }
+  const RootOfFile root = ReadRoot(file);
+  if (!holdsSomething() && root.name != rootName) {
+    throw Failure(file + L": there is no " + kind + L" in it but a " + root.name + L"; name a " + kind +
+                  L" file.");
+  }
+  if (!isReadWhole) Warn(file + L": some of its elements are not read; see zebreport check.");
+  return root.generation;
 }
 
 }  // namespace
 
-void LoadReportType(const std::wstring& file, CReportType& type) {
-  try {
-    type.LoadReportType(file.c_str());
-  } catch (const CKXException& exception) {
-    throw LibraryFailure(file, exception);
-  }
-  if (type.GetReportTypeZonesCount() == 0) RequireRoot(file, L"ReportTypeRootElement", L"report type");
+int LoadReportType(const std::wstring& file, CReportType& type) {
+  return LoadCatalogue(
+      file, L"ReportTypeRootElement", L"report type", [&] { type.LoadReportType(file.c_str()); },
+      [&] { return type.GetReportTypeZonesCount() > 0; });
 }
 
-void LoadReportDescriptions(const std::wstring& file, CReportDescriptions& descriptions) {
-  try {
-    descriptions.LoadReportDescriptions(file.c_str());
-  } catch (const CKXException& exception) {
-    throw LibraryFailure(file, exception);
-  }
-  if (descriptions.GetReportDescriptionsCount() == 0 && descriptions.GetDynamicVHItemCount() == 0) {
-    RequireRoot(file, L"ReportDescriptionRootElement", L"report description");
-  }
+int LoadReportDescriptions(const std::wstring& file, CReportDescriptions& descriptions) {
+  return LoadCatalogue(
+      file, L"ReportDescriptionRootElement", L"report description",
+      [&] { descriptions.LoadReportDescriptions(file.c_str()); },
+      [&] {
+        return descriptions.GetReportDescriptionsCount() > 0 || descriptions.GetDynamicVHItemCount() > 0;
+      });
+}
+
+std::wstring VersionText(int versionNr, int generation) {
+  return (versionNr == -1 ? L"no version" : L"version " + std::to_wstring(versionNr)) + L", generation " +
+         std::to_wstring(generation);
 }
 
 }  // namespace zebreport

@@ -11,7 +11,7 @@ namespace {
 void WriteItem(CDynamicValueHolderItem& item, std::wstring& output) {
   const CDynamicValueHolderType* type = item.GetDynVHType();
   Lines(output).Add(0, type == nullptr ? std::wstring(L"dynamic fields without a type")
-                                       : std::wstring(L"dynamic fields ") + type->GetName() + L", prefix " +
+                                       : L"dynamic fields " + QuotedIfNeeded(type->GetName()) + L", prefix " +
                                              Quoted(type->GetPrefix()));
   TextTable table({L"key", L"name"});
   for (int i = 0; i < item.GetDynVHAttributeCount(); ++i) {
@@ -44,9 +44,9 @@ void WriteItem(CDynamicValueHolderItem& item, JsonWriter& json) {
   json.End();
 }
 
-void WriteText(CReportDescriptions& descriptions, std::wstring& output) {
-  Lines(output).Add(0, L"product family " + Quoted(descriptions.GetProductFamily()) + L", version " +
-                           std::to_wstring(descriptions.GetReportDescriptionVersionNr()));
+void WriteText(CReportDescriptions& descriptions, int generation, std::wstring& output) {
+  Lines(output).Add(0, L"product family " + Quoted(descriptions.GetProductFamily()) + L", " +
+                           VersionText(descriptions.GetReportDescriptionVersionNr(), generation));
   TextTable table({L"type", L"file", L"name"});
   for (int i = 0; i < descriptions.GetReportDescriptionsCount(); ++i) {
     const CReportDescription& report = *descriptions.GetReportDescriptionAt(i);
@@ -58,11 +58,12 @@ void WriteText(CReportDescriptions& descriptions, std::wstring& output) {
   }
 }
 
-void WriteJson(CReportDescriptions& descriptions, std::wstring& output) {
+void WriteJson(CReportDescriptions& descriptions, int generation, std::wstring& output) {
   JsonWriter json(output);
   json.BeginObject();
   json.Key(L"productFamily").String(descriptions.GetProductFamily());
   json.Key(L"reportDescriptionVersionNr").Integer(descriptions.GetReportDescriptionVersionNr());
+  json.Key(L"versionNr").Integer(generation);
   json.Key(L"reports").BeginArray();
   for (int i = 0; i < descriptions.GetReportDescriptionsCount(); ++i) {
     const CReportDescription& report = *descriptions.GetReportDescriptionAt(i);
@@ -87,8 +88,8 @@ int RunDescriptions(ArgumentReader& arguments, std::wstring& output) {
   const bool asJson = arguments.TakeOption(L"--json", 0).has_value();
   const std::wstring file = arguments.TakeRest({L"report description file"}).front();
   CReportDescriptions descriptions;
-  LoadReportDescriptions(file, descriptions);
-  asJson ? WriteJson(descriptions, output) : WriteText(descriptions, output);
+  const int generation = LoadReportDescriptions(file, descriptions);
+  asJson ? WriteJson(descriptions, generation, output) : WriteText(descriptions, generation, output);
   return 0;
 }
 

@@ -53,7 +53,7 @@ std::wstring Result(const NeededField& field) {
 
 void WriteZone(const ZoneNeeds& zone, std::wstring& output) {
   Lines lines(output);
-  lines.Add(0, L"zone " + zone.name + (zone.isFooter ? L", footer" : L""));
+  lines.Add(0, L"zone " + QuotedIfNeeded(zone.name) + (zone.isFooter ? L", footer" : L""));
   TextTable fields({L"key", L"kind", L"value", L"place", L"name", L"result", L"comes from"});
   for (const NeededField& field : zone.fields) {
     fields.AddRow(
@@ -61,7 +61,7 @@ void WriteZone(const ZoneNeeds& zone, std::wstring& output) {
   }
   fields.AppendTo(output, 1);
   const auto addKeys = [&lines](const std::wstring& title, const std::vector<std::wstring>& keys) {
-    if (!keys.empty()) lines.Add(1, title + L": " + Joined(keys));
+    if (!keys.empty()) lines.Add(1, title + L": " + JoinedNames(keys));
   };
   addKeys(L"formulas and conditions read", zone.formulaKeys);
   addKeys(L"defined formulas also read", zone.definedFormulaKeys);
@@ -130,7 +130,7 @@ void WriteZone(const ZoneNeeds& zone, JsonWriter& json) {
 }
 
 void WriteText(CReportValueHolders& report, std::wstring& output) {
-  Lines(output).Add(0, std::wstring(L"report type ") + report.GetRootElement()->GetReportType());
+  Lines(output).Add(0, L"report type " + QuotedIfNeeded(report.GetRootElement()->GetReportType()));
   for (int i = 0; i < report.GetReportZoneCount(); ++i) WriteZone(NeedsOfZone(report, i), output);
 }
 

@@ -1,5 +1,6 @@
 #include "TextFormat.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -57,6 +58,13 @@ std::wstring Quoted(const std::wstring& text) {
   return quoted + L"\"";
 }
 
+std::wstring QuotedIfNeeded(const std::wstring& text) {
+  const bool isPlain =
+      !text.empty() && text.front() != L' ' && text.back() != L' ' &&
+      std::none_of(text.begin(), text.end(), [](wchar_t c) { return c < L' ' || c == L'"'; });
+  return isPlain ? text : Quoted(text);
+}
+
 std::wstring QuotedShort(const std::wstring& text) {
   return text.size() <= kShortLength ? Quoted(text) : Quoted(text.substr(0, kShortLength)) + L"...";
 }
@@ -68,6 +76,11 @@ std::wstring Joined(const std::vector<std::wstring>& parts) {
     joined += part;
   }
   return joined;
+}
+
+std::wstring JoinedNames(std::vector<std::wstring> names) {
+  std::transform(names.begin(), names.end(), names.begin(), QuotedIfNeeded);
+  return Joined(names);
 }
 
 void Lines::Add(int level, const std::wstring& line) {

@@ -15,11 +15,18 @@ std::wstring ExactNumber(double value);
 /// The text in quotes on one line: line ends, tabs, quotes and backslashes are escaped.
 std::wstring Quoted(const std::wstring& text);
 
+/// The text as it is, or as Quoted does it where it would not be seen as one text on its line: empty, with blanks at its
+/// ends, with line ends, tabs or quotes.
+std::wstring QuotedIfNeeded(const std::wstring& text);
+
 /// As Quoted, but cut to a length that fits beside other words, with three points at the end.
 std::wstring QuotedShort(const std::wstring& text);
 
 /// The parts with ", " between them.
 std::wstring Joined(const std::vector<std::wstring>& parts);
+
+/// The names with ", " between them, each as QuotedIfNeeded does it.
+std::wstring JoinedNames(std::vector<std::wstring> names);
 
 /// Collects lines, indented by two spaces per level.
 class Lines {

@@ -17,12 +17,22 @@ std::vector<std::wstring> EquivalentNames(const CReportTypeZone& zone) {
   return names;
 }
 
+std::wstring NameForUsers(const CReportTypeZone& zone) {
+  const std::wstring name = zone.GetExternalName();
+  const std::wstring description = zone.GetExternalDescription();
+  const std::wstring text = name.empty() ? L"no external name" : Quoted(name);
+  return description.empty() ? text : text + L": " + Quoted(description);
+}
+
 void WriteZone(const CReportTypeZone& zone, std::wstring& output) {
   Lines lines(output);
-  lines.Add(0, std::wstring(L"zone ") + zone.GetInternalName() + (zone.GetFooterZone() ? L", footer" : L""));
-  lines.Add(1, Quoted(zone.GetExternalName()) + L": " + Quoted(zone.GetExternalDescription()));
+  const std::wstring internalName = zone.GetInternalName();
+  lines.Add(
+      0, (internalName.empty() ? L"zone without an internal name" : L"zone " + QuotedIfNeeded(internalName)) +
+             (zone.GetFooterZone() ? L", footer" : L""));
+  lines.Add(1, NameForUsers(zone));
   const std::vector<std::wstring> equivalent = EquivalentNames(zone);
-  if (!equivalent.empty()) lines.Add(1, L"also named " + Joined(equivalent));
+  if (!equivalent.empty()) lines.Add(1, L"also named " + JoinedNames(equivalent));
   TextTable table({L"key", L"value", L"name", L"description"});
   for (int i = 0; i < zone.GetAvailableValueHolderCount(); ++i) {
     const CAvailableVH& valueHolder = *zone.GetAvailableValueHolderAt(i);
@@ -55,17 +65,18 @@ void WriteZone(const CReportTypeZone& zone, JsonWriter& json) {
   json.End();
 }
 
-void WriteText(const CReportType& type, std::wstring& output) {
-  Lines(output).Add(0, std::wstring(L"report type ") + type.GetReportType() + L", version " +
-                           std::to_wstring(type.GetReportVersionNr()));
+void WriteText(const CReportType& type, int generation, std::wstring& output) {
+  Lines(output).Add(0, L"report type " + QuotedIfNeeded(type.GetReportType()) + L", " +
+                           VersionText(type.GetReportVersionNr(), generation));
   for (int i = 0; i < type.GetReportTypeZonesCount(); ++i) WriteZone(*type.GetReportTypeZoneAt(i), output);
 }
 
-void WriteJson(const CReportType& type, std::wstring& output) {
+void WriteJson(const CReportType& type, int generation, std::wstring& output) {
   JsonWriter json(output);
   json.BeginObject();
   json.Key(L"reportType").String(type.GetReportType());
   json.Key(L"reportVersionNr").Integer(type.GetReportVersionNr());
+  json.Key(L"versionNr").Integer(generation);
   json.Key(L"zones").BeginArray();
   for (int i = 0; i < type.GetReportTypeZonesCount(); ++i) WriteZone(*type.GetReportTypeZoneAt(i), json);
   json.End();
@@ -78,8 +89,8 @@ int RunType(ArgumentReader& arguments, std::wstring& output) {
   const bool asJson = arguments.TakeOption(L"--json", 0).has_value();
   const std::wstring file = arguments.TakeRest({L"report type file"}).front();
   CReportType type;
-  LoadReportType(file, type);
-  asJson ? WriteJson(type, output) : WriteText(type, output);
+  const int generation = LoadReportType(file, type);
+  asJson ? WriteJson(type, generation, output) : WriteText(type, generation, output);
   return 0;
 }
 
