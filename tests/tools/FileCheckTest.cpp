@@ -598,6 +598,25 @@ TEST_F(FileCheck, SaysNothingOfTiesOfDefinedFormulas) {
   EXPECT_THAT(zebreport::CheckFile(file).findings, IsEmpty());
 }
 
+// A copy keeps the reference of a tie, not the object that it made for it: the reference leads nowhere.
+TEST_F(FileCheck, TellsASavedTieToAnObjectWithoutARecord) {
+  zebtest::WriteFile(
+      m_Folder.File("file.xml"),
+      "<ReportRootElement><ReportDocument><ZoneID>1</ZoneID></ReportDocument>"
+      "<ReportZone><ZoneID>1</ZoneID><LineID>2</LineID></ReportZone>"
+      "<Line><LineID>2</LineID><Placeable><PlID>2</PlID><PlRelID>3</PlRelID></Placeable></Line>"
+      "<PlRel><PlRelID>3</PlRelID><RectID>9</RectID></PlRel></ReportRootElement>");
+  {
+    zebreport::LoadedReport loaded;
+    loaded.LoadExactly(m_Folder.File("file.xml"), {});
+    loaded.Root().SaveReport(m_Folder.WideFile("copy.xml").c_str(), nullptr);
+  }
+  const std::vector<Finding> findings = zebreport::CheckFile(m_Folder.WideFile("copy.xml")).findings;
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_EQ(findings[0].Path, L"/ReportRootElement/PlRel/RectID");
+  EXPECT_EQ(findings[0].Fault, Fault::IdentifierWithoutObject);
+}
+
 TEST_F(FileCheck, SaysNothingOfOtherFilesThatTheLibraryWrote) {
   const std::filesystem::path catalogue = std::filesystem::path(ZEB_EXAMPLES) / "catalogue";
   const std::wstring file = m_Folder.WideFile("file.xml");
