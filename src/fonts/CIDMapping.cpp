@@ -12,9 +12,22 @@
 
 namespace {
 
-/// The integer that a token begins with, 0 if it begins with none; saturated.
+constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+
+/// Drops what both number formats allow in front of a number. A token can begin with a vertical tab, which separates no
+/// tokens.
+void DropWhiteSpace(std::string_view& token) {
+  token.remove_prefix(std::min(token.find_first_not_of(kWhiteSpace), token.size()));
+}
+
+/// The integer that a token begins with as `atoi` reads it: white space and one sign may come first, 0 if there is none;
+/// saturated.
 int ToInt(std::string_view token) {
-  if (token.starts_with('+')) token.remove_prefix(1);
+  DropWhiteSpace(token);
+  if (token.starts_with('+')) {
+    token.remove_prefix(1);
+    if (token.starts_with('-')) return 0;
+  }
   int value = 0;
   const auto result = std::from_chars(token.data(), token.data() + token.size(), value);
   if (result.ec == std::errc::result_out_of_range) return token.starts_with('-') ? INT_MIN : INT_MAX;
@@ -25,7 +38,7 @@ int ToInt(std::string_view token) {
 /// eight count.
 int HexToInt(std::string_view token) {
   if (token.starts_with('<')) token.remove_prefix(1);
-  token.remove_prefix(std::min(token.find_first_not_of(" \t\n\v\f\r"), token.size()));
+  DropWhiteSpace(token);
   const bool negative = token.starts_with('-');
   if (negative || token.starts_with('+')) token.remove_prefix(1);
   if (token.starts_with("0x") || token.starts_with("0X")) token.remove_prefix(2);

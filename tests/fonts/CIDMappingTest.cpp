@@ -129,6 +129,20 @@ TEST(CIDMapping, WModeIsReadAsTheIntegerThatTheTokenBeginsWith) {
   EXPECT_EQ(Loaded("/WMode -99999999999").GetWMode(), INT_MIN);
 }
 
+TEST(CIDMapping, AnIntegerHasOneSignAtMost) {
+  EXPECT_EQ(Loaded("/WMode +-3").GetWMode(), 0);
+  EXPECT_EQ(Loaded("/WMode -+3").GetWMode(), 0);
+  EXPECT_EQ(Loaded("/WMode ++3").GetWMode(), 0);
+  EXPECT_EQ(Section("cidrange", "<00> <00> +-3").GetCIDFromCode(0), 0);
+}
+
+// A vertical tab is white space to a number, but it does not separate tokens.
+TEST(CIDMapping, AVerticalTabBeforeAnIntegerIsPassedOver) {
+  EXPECT_EQ(Loaded("/WMode \v7").GetWMode(), 7);
+  EXPECT_EQ(Loaded("/WMode \v\v-7").GetWMode(), -7);
+  EXPECT_EQ(Section("cidrange", "<00> <00> \v7").GetCIDFromCode(0), 7);
+}
+
 TEST(CIDMapping, TokensOfUnequalLengthAreIgnored) {
   EXPECT_EQ(Section("cidrange", "<00> <00ff> 1").GetCIDFromCode(0), -1);
   EXPECT_EQ(Section("cidrange", "<00> <00ff> 1 <01> <01> 5").GetCIDFromCode(1), 5);
