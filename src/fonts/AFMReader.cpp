@@ -9,10 +9,10 @@
 #include <algorithm>
 #include <climits>
 #include <cwchar>
+#include <map>
 #include <memory>
 #include <span>
 #include <string_view>
-#include <unordered_map>
 
 // The reader of Adobe Font Metrics files.
 //
@@ -362,7 +362,9 @@ void CPostscriptFontMetrics::SkipSections() {
 }
 
 void CPostscriptFontMetrics::TakeWidthsOfNames() {
-  std::unordered_map<std::wstring_view, int> widths;
+  // A tree, since the file chooses the names: chosen for one bucket of a hash table, they would take the square of their
+  // number.
+  std::map<std::wstring_view, int> widths;
   for (const CFontCharMetricsInfo* record : m_rgpCharMetrics) {
     if (record != nullptr) widths.emplace(record->GetName(), record->GetWX());
   }
