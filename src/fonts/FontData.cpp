@@ -12,7 +12,6 @@
 #include <cstring>
 #include <new>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -179,8 +178,9 @@ void CFontData::CopyOut(int pos, int count, unsigned char* target) const {
     std::fill_n(target, count, static_cast<unsigned char>(0));
     return;
   }
+  // The target may lie in this very block, so what is there comes first, from wherever it lies.
+  std::memmove(target + (begin - pos), m_pBuffer + begin, static_cast<std::size_t>(there - begin));
   std::fill_n(target, begin - pos, static_cast<unsigned char>(0));
-  std::copy(m_pBuffer + begin, m_pBuffer + there, target + (begin - pos));
   std::fill_n(target + (there - pos), end - there, static_cast<unsigned char>(0));
 }
 
@@ -250,17 +250,11 @@ void CFontData::WriteBigEndianAtPos(int pos, unsigned int value, int count) {
 
 void CFontData::CopyBytesAtPos(int pos, int count, CFontData* target) {
   if (count <= 0) return;
-  if (target != this && target->m_iPos >= 0) {
-    target->MakeRoomAtCursor(count);
-    CopyOut(pos, count, target->m_pBuffer + target->m_iPos);
-    target->MoveCursor(static_cast<long long>(target->m_iPos) + count);
-    target->m_iLength += count;
-    return;
-  }
-  // A copy in between, since writing may move this very block.
-  std::vector<unsigned char> bytes(static_cast<std::size_t>(count));
-  CopyOut(pos, count, bytes.data());
-  target->WriteBytes(bytes.data(), count);
+  // Room comes before reading: where the target is this object, its block may move.
+  target->MakeRoomAtCursor(count);
+  if (target->m_iPos >= 0) CopyOut(pos, count, target->m_pBuffer + target->m_iPos);
+  target->MoveCursor(static_cast<long long>(target->m_iPos) + count);
+  target->m_iLength += count;
 }
 
 void CFontData::CreatePad4() {

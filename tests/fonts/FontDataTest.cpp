@@ -343,6 +343,41 @@ TEST(FontData, CopiesIntoItselfAcrossAGrowth) {
   EXPECT_EQ(Content(data), (Bytes{1, 2, 3, 4, 1, 2, 3, 4}));
 }
 
+TEST(FontData, CopiesIntoItselfWhereBothOverlap) {
+  CFontData forward(true);
+  Bytes block = Counting(6);
+  forward.WriteBytes(block.data(), 6);
+  forward.Seek(2);
+  forward.CopyBytesAtPos(0, 4, &forward);
+  EXPECT_EQ(Content(forward), (Bytes{1, 2, 1, 2, 3, 4, 0, 0, 0, 0}));
+  CFontData backward(true);
+  backward.WriteBytes(block.data(), 6);
+  backward.Seek(0);
+  backward.CopyBytesAtPos(2, 4, &backward);
+  EXPECT_EQ(Content(backward), (Bytes{3, 4, 5, 6, 5, 6, 0, 0, 0, 0}));
+}
+
+TEST(FontData, CopiesIntoItselfWithZeroForWhatIsNotThere) {
+  CFontData before(true);
+  before.WriteUInt(0x01020304);
+  before.Seek(0);
+  before.CopyBytesAtPos(-2, 4, &before);
+  EXPECT_EQ(Content(before), (Bytes{0, 0, 1, 2, 0, 0, 0, 0}));
+  CFontData behind(4, true);
+  behind.WriteUInt(0x01020304);
+  behind.CopyBytesAtPos(3, 3, &behind);
+  EXPECT_EQ(Content(behind), (Bytes{1, 2, 3, 4, 4, 0, 0}));
+}
+
+TEST(FontData, CopiesIntoItselfInFrontOfTheStartAreNotStored) {
+  CFontData data(false);
+  Append(data, Counting(4));
+  data.Seek(-3);
+  data.CopyBytesAtPos(0, 2, &data);
+  EXPECT_EQ(data.Tell(), -1);
+  EXPECT_EQ(Content(data), (Bytes{1, 2, 3, 4, 0, 0}));
+}
+
 TEST(FontData, CopiesZeroForWhatIsNotThere) {
   CFontData source(2, false);
   Append(source, {1, 2});
