@@ -175,7 +175,10 @@ class PFAReader {
 
 void CPostscriptFontMetrics::ReadPFBPFAFile(const wchar_t* path) {
   std::vector<unsigned char> content = zeb::ReadFontFile(path, m_iFileHandle);
-  SetFontData(new CFontData(false), true);
+  auto* const program = new CFontData(false);
+  // A program of the pool stays the pool's: SetFontData would delete it.
+  if (!m_bFontDataOwner) m_pFontData = nullptr;
+  SetFontData(program, true);
   CFontData& data = *m_pFontData;
   if (!content.empty() && content.front() == kMarker) {
     PFBReader(content, data).Read();

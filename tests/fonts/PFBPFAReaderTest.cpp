@@ -1,6 +1,7 @@
 #include "fonts/FontData.h"
 #include "fonts/ReadFont.h"
 #include "support/Files.h"
+#include "support/ScopedFontPool.h"
 #include "support/WidePath.h"
 
 #include <gtest/gtest.h>
@@ -301,6 +302,21 @@ TEST(PFBReader, RealFontsGiveTheSegmentsOfTheirHeaders) {
     }
   }
   if (count == 0) GTEST_SKIP() << "no package with PFB files is installed";
+}
+
+TEST(PFBReader, AProgramOfThePoolStaysWhole) {
+  const zebtest::ScopedFontPool pool;
+  std::vector<unsigned char> bytes = {7, 8, 9};
+  pool->SetFontData(L"S", L"S", 400, false, bytes.data(), 3, {});
+  CFontData* const ofPool = pool->GetFontData(L"S");
+  ReadFont font;
+  font->SetFontData(ofPool, false);
+  ASSERT_EQ(font.ProgramBytes(Segment(1, "text") + kEnd), L"");
+  EXPECT_EQ(ProgramOf(font.Metrics()), (Program{"text", 4, 0, 0}));
+  ASSERT_EQ(pool->GetFontData(L"S"), ofPool);
+  ASSERT_EQ(ofPool->GetLength(), 3);
+  EXPECT_EQ(std::vector<unsigned char>(ofPool->GetData(), ofPool->GetData() + 3), bytes);
+  EXPECT_EQ(ofPool->GetLength1(), 0);
 }
 
 /// How many blanks stand at the beginnings of lines.
