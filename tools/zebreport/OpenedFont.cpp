@@ -43,7 +43,8 @@ bool IsPostScript(const std::wstring& ending) {
 
 }  // namespace
 
-OpenedFont::OpenedFont(const std::wstring& fileOrName, const FontStyle& style) {
+// The other constructor has made the object by then, so that a refused font is freed by the destructor too.
+OpenedFont::OpenedFont(const std::wstring& fileOrName, const FontStyle& style) : OpenedFont() {
   if (IsPostScript(EndingOf(fileOrName))) {
     ReadPostScript(fileOrName);
   } else {

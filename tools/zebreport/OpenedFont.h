@@ -31,6 +31,8 @@ class OpenedFont {
   std::vector<unsigned short> Characters() const;
 
  private:
+  OpenedFont() = default;
+
   void ReadPostScript(const std::wstring& file);
   void ReadMetricsAndProgram(const std::wstring& file);
   bool ReadFirst(const std::wstring& stem, const std::vector<std::wstring>& endings,
