@@ -1,6 +1,7 @@
 #include "fonts/FontData.h"
 
 #include "foundation/KXException.h"
+#include "support/RaisedKey.h"
 
 #include <gtest/gtest.h>
 
@@ -92,6 +93,18 @@ TEST(FontData, GrowsByWholeChunksOfTheCount) {
   EXPECT_EQ(data.Capacity(), 30);
   data.ReAllocFontData(40);  // 40 / 10 + 1 chunks
   EXPECT_EQ(data.Capacity(), 80);
+}
+
+TEST(FontData, WhatIsAppendedGrowsByWholeChunksOfZeros) {
+  OpenFontData data(10, false);
+  Append(data, Counting(12));  // 12 / 10 + 1 chunks
+  EXPECT_EQ(data.Capacity(), 30);
+  EXPECT_EQ(data.GetUShortAtPos(12), 0);
+  EXPECT_EQ(data.GetUShortAtPos(28), 0);
+  OpenFontData fresh(10, false);
+  Append(fresh, Counting(25));  // 25 / 10 + 1 chunks
+  EXPECT_EQ(fresh.Capacity(), 40);
+  EXPECT_EQ(Content(fresh), Counting(25));
 }
 
 TEST(FontData, FixedRoomIsCountedFromTheLengthAndNotFromTheCursor) {
@@ -258,6 +271,7 @@ TEST(FontData, SkipExtendsAGrowingBuffer) {
   EXPECT_EQ(data.Capacity(), 12);
   EXPECT_EQ(data.GetLength(), 6);
   EXPECT_EQ(data.Tell(), 6);
+  EXPECT_EQ(Content(data), Bytes(6));
 }
 
 TEST(FontData, FixedSkipOverBytesOfTheContentAddsToTheLength) {
@@ -491,6 +505,24 @@ TEST(FontData, GrowthBeyondTheLargestIntegerIsRefused) {
   EXPECT_EQ(data.Capacity(), 4);
   EXPECT_EQ(data.GetLength(), 4);
   EXPECT_EQ(data.Tell(), 4);
+}
+
+TEST(FontData, GrowthThatIsRefusedRaisesItsKey) {
+  OpenFontData data(4, true);
+  Append(data, Counting(4));
+  const std::wstring key = L"NoMoreMemoryLeft";
+  EXPECT_EQ(zebtest::RaisedKey([&] { data.Seek(INT_MAX); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { data.Skip(INT_MAX); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { data.WriteUIntAtPos(INT_MAX, 0); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { data.ReAllocFontData(INT_MAX); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { data.ReAllocFontDataPos(INT_MAX, 0); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { data.CopyBytesAtPos(0, INT_MAX, &data); }), key);
+  EXPECT_EQ(Content(data), Counting(4));
+  try {
+    data.Seek(INT_MAX);
+  } catch (const CKXException& exception) {
+    EXPECT_EQ(exception.GetErrorNr(), 1001);
+  }
 }
 
 TEST(FontData, FixedCopiesShareTheBlock) {
