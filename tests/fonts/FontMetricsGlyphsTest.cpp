@@ -141,6 +141,13 @@ TEST(FontWidths, AreStoredByCode) {
   EXPECT_EQ(metrics->GetWidthAt(65535), 1000);
 }
 
+TEST(FontWidths, OfUsedGlyphsNeedATrueTypeFont) {
+  const auto metrics = Subset();
+  metrics->SetUnitsPerEm(2048);
+  EXPECT_EQ(metrics->GetWidthOfUsedGlyph(0), 0);
+  EXPECT_EQ(metrics->GetWidthOfUsedGlyph(3), 0);
+}
+
 TEST(FontWidths, FixedASymbolFontReadsItsPageOnly) {
   const auto metrics = Subset();
   metrics->SetSymbolFont(true);
@@ -193,6 +200,16 @@ TEST(ConvertTTToPDF, RoundsTheUsualUnits) {
   }
   metrics->SetUnitsPerEm(1000);
   EXPECT_EQ(metrics->ConvertTTToPDF(-207), -207);
+}
+
+// Of more digits these are 2070.49991 and 551.49998.
+TEST(ConvertTTToPDF, ComputesInSinglePrecision) {
+  const auto metrics = Subset();
+  metrics->SetUnitsPerEm(16383);
+  EXPECT_EQ(metrics->ConvertTTToPDF(33921), 2071);
+  EXPECT_EQ(metrics->ConvertTTToPDF(-33921), -2071);
+  metrics->SetUnitsPerEm(32767);
+  EXPECT_EQ(metrics->ConvertTTToPDF(18071), 552);
 }
 
 TEST(ConvertTTToPDF, ValuesBeyondIntegersSaturate) {

@@ -34,6 +34,7 @@ class OpenMetrics : public CFontMetrics {
  public:
   void SetSubsetData(CFontData* data) { m_pSubsetData = data; }
   int FileHandle() const { return m_iFileHandle; }
+  void SetUnitsPerEm(unsigned short units) { m_usUnitsPerEm = units; }
   unsigned short UnitsPerEm() const { return m_usUnitsPerEm; }
 };
 
@@ -169,6 +170,36 @@ TEST(FontMetrics, InitLeavesTheOtherValues) {
   EXPECT_EQ(metrics->GetFontData(), data);
   metrics->SetSymbolFont(false);
   EXPECT_EQ(metrics->GetWidthAt(65), 667);
+}
+
+TEST(FontMetrics, InitLeavesGlyphsRecordsAndLinkedNames) {
+  const auto metrics = Make();
+  CFontCharMetricsInfo record;
+  metrics->SetUnitsPerEm(2048);
+  metrics->SetFontEmbedding(CFontMetrics::EmbedSubset);
+  metrics->AddUnicodeToGlyphIndex(65, 40);
+  EXPECT_EQ(metrics->MapChar(65), 3);
+  metrics->AddFontCharMetricsInfo(&record);
+  metrics->SetFontBoldName(L"Bold");
+  metrics->SetFontItalicName(L"Italic");
+  metrics->SetFontBoldItalicName(L"BoldItalic");
+  metrics->InitFontInformation();
+  EXPECT_EQ(metrics->UnitsPerEm(), 2048);
+  EXPECT_EQ(metrics->GetFontEmbedding(), CFontMetrics::EmbedSubset);
+  EXPECT_EQ(metrics->GetUsedGlyphsCount(), 4);
+  EXPECT_EQ(metrics->MapChar(65), 3);
+  EXPECT_EQ(metrics->GetUsedGlyphsCount(), 4);
+  ASSERT_EQ(metrics->GetFontCharMetricsCount(), 1);
+  EXPECT_EQ(metrics->GetFontCharMetricsAt(0), &record);
+  EXPECT_STREQ(metrics->GetFontBoldName(), L"Bold");
+  EXPECT_STREQ(metrics->GetFontItalicName(), L"Italic");
+  EXPECT_STREQ(metrics->GetFontBoldItalicName(), L"BoldItalic");
+}
+
+TEST(FontMetrics, TheDataOfANewObjectDoesNotGrow) {
+  const auto metrics = Make();
+  metrics->GetFontData()->Seek(10);
+  EXPECT_EQ(metrics->GetFontData()->GetLength(), 0);
 }
 
 TEST(FontMetrics, KeepsItsTexts) {
