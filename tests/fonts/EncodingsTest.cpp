@@ -17,6 +17,8 @@ class OpenEncodings : public CEncodings {
  public:
   using CEncodings::CEncodings;
 
+  int GetCharCollNameCount() const { return static_cast<int>(m_rgpCharCollNames.size()); }
+  void ClearWinAnsiFlag() { m_bWinAnsiAdded = false; }
   void Forget() {
     m_rgpEncodings.clear();
     m_rgpCharCollNames.clear();
@@ -119,12 +121,13 @@ TEST(Encodings, TheFontSpecificEntryMapsEveryCodeToItself) {
 }
 
 TEST(Encodings, TheStandardContentsAreAddedOnce) {
-  CEncodings encodings(nullptr);
+  OpenEncodings encodings(nullptr);
   encodings.AddCMaps();
   encodings.AddCharCollNames();
   encodings.AddWinAnsiEncoding();
   encodings.AddFontSpecificEncoding();
   EXPECT_EQ(encodings.GetEncodingCount(), 55);
+  EXPECT_EQ(encodings.GetCharCollNameCount(), 5);
 }
 
 TEST(Encodings, NamesAreFoundCaseSensitively) {
@@ -161,6 +164,19 @@ TEST(Encodings, FixedAListThatWasEmptiedStaysEmpty) {
   EXPECT_EQ(encodings.GetEncodingCount(), 0);
   encodings.AddWinAnsiEncoding();
   EXPECT_EQ(encodings.GetEncodingCount(), 0);
+}
+
+TEST(Encodings, AnEmptyListGetsTheWinAnsiEncodingWhileItsFlagIsClear) {
+  OpenEncodings found(nullptr);
+  Empty(found);
+  found.ClearWinAnsiFlag();
+  EXPECT_NE(found.FindEncoding(L"winansi1252"), nullptr);
+  EXPECT_EQ(found.GetEncodingCount(), 1);
+  OpenEncodings indexed(nullptr);
+  Empty(indexed);
+  indexed.ClearWinAnsiFlag();
+  EXPECT_STREQ(indexed.GetEncodingAt(0)->GetInternalName(), L"winansi1252");
+  EXPECT_EQ(indexed.GetEncodingCount(), 1);
 }
 
 TEST(Encodings, TheCharacterCollections) {
