@@ -102,6 +102,27 @@ TEST(CIDMapping, TheTokenBehindANameIsNotLookedAtAgain) {
   EXPECT_STREQ(mapping.GetOrdering(), "");
 }
 
+// The token behind an entry that was taken is a new previous one, and only a current one begins a section.
+TEST(CIDMapping, FixedTheTokenBehindAnEntryBeginsNoSection) {
+  const std::string section = " begincidrange <05> <05> 6 endcidrange";
+  for (const char* head : {"/WMode 1", "/A usecmap", "/Registry (A)", "/Ordering (A)", "/CMapName /A"}) {
+    EXPECT_EQ(Loaded(head + section).GetCIDFromCode(5), -1) << head;
+    EXPECT_EQ(Loaded(head + (" x" + section)).GetCIDFromCode(5), 6) << head;
+  }
+  EXPECT_EQ(Loaded("/WMode /WMode 1").GetWMode(), 0);
+}
+
+TEST(CIDMapping, BfSectionsEndAtTheirEndWords) {
+  EXPECT_EQ(Loaded("1 beginbfchar <05> <41> endbfchar x /WMode 1").GetWMode(), 1);
+  EXPECT_EQ(Loaded("1 beginbfchar <05> <41> endbfchar x").GetCIDFromCode(5), 0x41);
+  EXPECT_EQ(Loaded("1 beginbfrange <05> <05> <41> endbfrange x /WMode 1").GetWMode(), 1);
+  EXPECT_EQ(Loaded("1 beginbfrange <05> <05> <41> endbfrange x").GetCIDFromCode(5), 0x41);
+}
+
+TEST(CIDMapping, FixedTheCIDOfARangeIsDecimalAlways) {
+  EXPECT_EQ(Section("cidrange", "<00> <00> <41>").GetCIDFromCode(0), 0);
+}
+
 TEST(CIDMapping, ASectionWordBehindANameBeginsTheSection) {
   const CIDMapping mapping = Loaded("/CMapName begincidrange <00> <00> 7 endcidrange");
   EXPECT_STREQ(mapping.GetCMapName(), "");
