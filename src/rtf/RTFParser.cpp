@@ -37,6 +37,14 @@ constexpr std::array<signed char, 256> kHexDigits = [] {
 /// The quote and the two digits behind a backslash.
 constexpr std::ptrdiff_t kHexByteLength = 3;
 
+/// The value of a quote and two hex digits, -1 if anything else stands there.
+int WholeHexByteAt(const unsigned char* from, const unsigned char* end) {
+  if (end - from < kHexByteLength || from[0] != '\'') return -1;
+  const int high = kHexDigits[from[1]];
+  const int low = kHexDigits[from[2]];
+  return high < 0 || low < 0 ? -1 : high * 16 + low;
+}
+
 /// Whether a byte of text is text and nothing else.
 constexpr std::array<bool, 256> kPlain = [] {
   std::array<bool, 256> plain{};
@@ -184,26 +192,18 @@ int CRTFParser::ParseHexDigit(unsigned char ch, HexByte& hex, char* pending) {
 }
 
 bool CRTFParser::ParseHexBytes(char* pending) {
-  if (m_rds == rdsSkip) return false;
-  int byte = WholeHexByteAt(m_pCur);
-  if (byte < 0) return false;
+  int byte = WholeHexByteAt(m_pCur, m_pEnd);
+  if (byte < 0 || m_rds == rdsSkip) return false;
   m_bSkipDestIfUnknown = false;
   m_ris = risNorm;
   for (;;) {
     m_pCur += kHexByteLength;
     TakeHexByte(static_cast<char>(byte), pending);
     if (m_pCur == m_pEnd || *m_pCur != '\\') return true;
-    byte = WholeHexByteAt(m_pCur + 1);
+    byte = WholeHexByteAt(m_pCur + 1, m_pEnd);
     if (byte < 0) return true;
     ++m_pCur;
   }
-}
-
-int CRTFParser::WholeHexByteAt(const unsigned char* from) const {
-  if (m_pEnd - from < kHexByteLength || from[0] != '\'') return -1;
-  const int high = kHexDigits[from[1]];
-  const int low = kHexDigits[from[2]];
-  return high < 0 || low < 0 ? -1 : high * 16 + low;
 }
 
 void CRTFParser::TakeHexByte(char byte, char* pending) {

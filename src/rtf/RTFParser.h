@@ -380,8 +380,6 @@ class ZEB_EXPORT CRTFParser {
   /// Behind a backslash: reads hex bytes that follow each other, as long as nothing stands between their characters.
   /// @return whether there was one
   bool ParseHexBytes(char* pending);
-  /// The value of a quote and two hex digits, -1 if anything else stands there.
-  int WholeHexByteAt(const unsigned char* from) const;
   void TakeHexByte(char byte, char* pending);
   void FlushPending(char* pending);
   bool NextIsHexByte();
