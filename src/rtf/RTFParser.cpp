@@ -23,12 +23,12 @@ struct CRTFParser::HexByte {
 namespace {
 
 /// The values of hex digits, -1 for any other byte.
-constexpr std::array<signed char, 256> kHexDigits = [] {
-  std::array<signed char, 256> values{};
+constexpr std::array<int, 256> kHexDigits = [] {
+  std::array<int, 256> values{};
   values.fill(-1);
   for (const std::string_view digits : {"0123456789abcdef", "0123456789ABCDEF"}) {
     for (std::size_t value = 0; value < digits.size(); ++value) {
-      values[static_cast<unsigned char>(digits[value])] = static_cast<signed char>(value);
+      values[static_cast<unsigned char>(digits[value])] = static_cast<int>(value);
     }
   }
   return values;
