@@ -33,9 +33,11 @@ constexpr std::array<std::uint8_t, 128> MakeCharacterClasses() {
 inline constexpr std::array<std::uint8_t, 128> kCharacterClasses = MakeCharacterClasses();
 
 /// A character as the value that the standard library's classes take, or 256, which belongs to none of them.
-constexpr int ClassifiableCharacter(wchar_t c) { return c >= 0 && c <= 255 ? static_cast<int>(c) : 256; }
+constexpr int ClassifiableCharacter(wchar_t c) {
+  return static_cast<char32_t>(c) <= 255 ? static_cast<int>(c) : 256;
+}
 
-constexpr bool IsAscii(wchar_t c) { return c >= 0 && c < 128; }
+constexpr bool IsAscii(wchar_t c) { return static_cast<char32_t>(c) < 128; }
 
 inline std::uint8_t AsciiClass(wchar_t c) { return kCharacterClasses[static_cast<char32_t>(c)]; }
 

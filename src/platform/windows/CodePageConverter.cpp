@@ -1,8 +1,6 @@
 #include "platform/CodePageConverter.h"
 
-#define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "platform/windows/Windows.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,6 @@
 #include "platform/File.h"
 
-#define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "platform/windows/Windows.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -13,6 +11,8 @@
 namespace zeb {
 
 namespace {
+
+constexpr DWORD kDiskQuotaExceeded = 1295;  // which not every version of the system's header names
 
 FileStatus StatusOfError(DWORD error) {
   switch (error) {
@@ -31,7 +31,7 @@ FileStatus StatusOfError(DWORD error) {
       return FileStatus::NotAFile;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
-    case ERROR_DISK_QUOTA_EXCEEDED:
+    case kDiskQuotaExceeded:
       return FileStatus::NoSpace;
     default:
       return FileStatus::Failed;

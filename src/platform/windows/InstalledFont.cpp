@@ -1,8 +1,6 @@
 #include "platform/InstalledFont.h"
 
-#define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "platform/windows/Windows.h"
 
 #include <algorithm>
 
@@ -48,7 +46,8 @@ struct InstalledFont::State {
     Font = CreateFontIndirectW(&description);
     Context = Font != nullptr ? GetDC(nullptr) : nullptr;
     Before = Context != nullptr ? SelectObject(Context, Font) : nullptr;
-    return Before != nullptr && Before != HGDI_ERROR;
+    // The latter is the value of HGDI_ERROR, whose definition warns.
+    return Before != nullptr && Before != INVALID_HANDLE_VALUE;
   }
 
   bool Measure(DWORD table) {

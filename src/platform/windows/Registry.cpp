@@ -1,7 +1,6 @@
 #include "platform/Registry.h"
 
-#define NOMINMAX
-#include <windows.h>
+#include "platform/windows/Windows.h"
 
 #include <shlobj.h>
 

@@ -1,6 +1,6 @@
 #include "platform/SystemLanguage.h"
 
-#include <windows.h>
+#include "platform/windows/Windows.h"
 
 namespace zeb {
 
