@@ -147,6 +147,18 @@ TEST(AFMReader, EndFontMetricsEndsTheGlobalSection) {
   EXPECT_EQ(font->GetStemVW(), 165);
 }
 
+TEST(AFMReader, EndFontMetricsEndsTheCharacters) {
+  ReadFont font;
+  EXPECT_EQ(font.AFMText("StartCharMetrics 1\nC 65 ; WX 7 ; N A ;\nEndFontMetrics\n"), L"");
+  EXPECT_EQ(font->GetWidthAt(65), 7);
+}
+
+TEST(AFMReader, TheSchemeIsSetBeforeMissingCharactersAreRefused) {
+  ReadFont font;
+  EXPECT_EQ(font.AFMText("EndFontMetrics"), L"NoCharMetrics");
+  EXPECT_STREQ(font->GetEncodingScheme(), L"FontSpecific");
+}
+
 TEST(AFMReader, FixedACountBehindEndFontMetricsBeginsCharacters) {
   ReadFont font;
   EXPECT_EQ(font.AFMText("EndFontMetrics 1 C 65 ; WX 444 ; N A ;"), L"");
