@@ -10,6 +10,7 @@
 
 #include <array>
 #include <filesystem>
+#include <string>
 #include <vector>
 
 // A font program is read once: from then on every use goes by the bytes in memory.
@@ -107,4 +108,18 @@ TEST(FontReuse, FontsThatShareAProgramAreSubsetByTurns) {
   EXPECT_EQ(SubsetOf(second, 0x42), FreshSubset(0x42));
   first.CreateSubsetFont();
   EXPECT_EQ(Contents(*first.GetFontData()), FreshSubset(0x42));
+}
+
+TEST(FontReuse, AFileDoesNotFillAProgramOfThePool) {
+  const zebtest::TempDir folder;
+  const Bytes bytes = TrueTypeBuilder().Build();
+  zebtest::WriteBytes(folder.File("font.ttf"), bytes);
+  const std::wstring path = folder.WideFile("font.ttf");
+  CFontData ofPool(false);
+  CTrueTypeFontMetrics metrics;
+  metrics.SetFontData(&ofPool, false);
+  ASSERT_EQ(zeb::TrueTypeReader(metrics, {.filePath = path.c_str()}).Read(), zeb::kTrueTypeDone);
+  EXPECT_EQ(ofPool.GetLength(), 0);
+  ASSERT_NE(metrics.GetFontData(), &ofPool);
+  EXPECT_EQ(Contents(*metrics.GetFontData()), bytes);
 }

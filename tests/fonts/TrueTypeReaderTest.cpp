@@ -3,6 +3,7 @@
 #include "fonts/TrueTypeFont.h"
 #include "fonts/TrueTypeHMtx.h"
 #include "fonts/TrueTypeTables.h"
+#include "support/ScopedEnvironment.h"
 
 #include <gtest/gtest.h>
 
@@ -147,6 +148,14 @@ TEST(TrueTypeReader, RefusesPostScriptOutlines) {
   EXPECT_EQ(read.Metrics().GetTTFile(), nullptr);
 }
 
+TEST(TrueTypeReader, PostScriptOutlinesBesideTheOthersOnlyChangeTheKind) {
+  TrueTypeBuilder font;
+  font.Replace("CFF ", {1, 0, 4, 1});
+  const TrueTypeFont read(font);
+  EXPECT_EQ(read.Failure(), L"");
+  EXPECT_EQ(read.Metrics().GetFontType(), CFontMetrics::FontTypeOpenType);
+}
+
 TEST(TrueTypeReader, RefusesBitmapFonts) {
   TrueTypeBuilder font;
   font.Replace("bhed", {0});
@@ -185,6 +194,12 @@ TEST(TrueTypeReader, WeightsBelow700AreAlwaysImitatedFixed) {
   EXPECT_FALSE(halfBold.Metrics().GetBoldFont());
   EXPECT_EQ(halfBold.Metrics().GetBold(), 600);
   EXPECT_EQ(halfBold.Metrics().GetStemVW(), 165);
+
+  asked.bold = 300;
+  const TrueTypeFont light(font, asked);
+  EXPECT_FALSE(light.Metrics().GetBoldFont());
+  EXPECT_EQ(light.Metrics().GetBold(), 300);
+  EXPECT_EQ(light.Metrics().GetStemVW(), 165);
 }
 
 TEST(TrueTypeReader, ImitatesStylesThatTheFaceLacks) {
@@ -309,6 +324,20 @@ TEST(TrueTypeReader, ASingleByteSymbolFontReadsBackNoWidthsFixed) {
   EXPECT_EQ(font.File().GetTabHMtx()->GetEntryAt(3)->GetCodes(), (std::vector<unsigned short>{0x41}));
 }
 
+TEST(TrueTypeReader, TheMarkOfASymbolFontOutlivesAReadingFixed) {
+  TrueTypeFont font{SymbolFont()};
+  ASSERT_TRUE(font.Metrics().GetSymbolFont());
+  TrueTypeBuilder plain;
+  plain.cmaps = {
+      {3, 1, TrueTypeBuilder::Format4({{0x41, 0x41, 3U - 0x41U, 0}, {0x20AC, 0x20AC, 4U - 0x20ACU, 0}})}};
+  font.Read(plain.Build());
+  ASSERT_EQ(font.Failure(), L"");
+  EXPECT_TRUE(font.Metrics().GetSymbolFont());
+  // The glyphs go by the characters of the encoding all the same: 0x80 is the Euro sign.
+  EXPECT_EQ(font.File().GetTabHMtx()->GetEntryAt(3)->GetCodes(), (std::vector<unsigned short>{0x41}));
+  EXPECT_EQ(font.File().GetTabHMtx()->GetEntryAt(4)->GetCodes(), (std::vector<unsigned short>{0x80}));
+}
+
 TEST(TrueTypeReader, TheCodesOfASymbolFontLieInThePageOfItsFirstCharacter) {
   TrueTypeBuilder font = SymbolFont();
   font.firstCharIndex = 0xF1AB;
@@ -400,6 +429,77 @@ TEST(TrueTypeReader, ParsingAgainFindsTheFontOfACollection) {
   EXPECT_EQ(font.Failure(), L"TrueTypeCreationFailed");
   font.ReadAgain(nullptr);
   EXPECT_EQ(font.Failure(), L"TrueTypeCreationFailed");
+}
+
+// The encoding's name is reset before the tables are held against it, the tables are not.
+TEST(TrueTypeReader, FixedTheCharactersOfAnEarlierReadingStay) {
+  Asked central;
+  central.encoding = L"1250";
+  TrueTypeFont font(TrueTypeBuilder(), central);
+  font.Read(TrueTypeBuilder().Build());
+  ASSERT_EQ(font.Failure(), L"");
+  EXPECT_STREQ(font.Metrics().GetEncoding(), L"winansi1252");
+  EXPECT_EQ(font.Metrics().GetUnicodeAt(0xE8), 0x010D);
+}
+
+TEST(TrueTypeReader, ParsingAgainChangesTheCharacters) {
+  Asked central;
+  central.encoding = L"1250";
+  TrueTypeFont font(TrueTypeBuilder(), central);
+  font.ReadAgain(nullptr);
+  ASSERT_EQ(font.Failure(), L"");
+  EXPECT_STREQ(font.Metrics().GetEncoding(), L"winansi1252");
+  EXPECT_EQ(font.Metrics().GetUnicodeAt(0xE8), 0x00E8);
+}
+
+TEST(TrueTypeReader, ParsingAgainDoesNotResetTheMetrics) {
+  TrueTypeFont font{TrueTypeBuilder()};
+  font.Metrics().SetStemHW(5);
+  font.Metrics().SetFontType(CFontMetrics::FontTypeType1);
+  font.ReadAgain(nullptr);
+  ASSERT_EQ(font.Failure(), L"");
+  EXPECT_EQ(font.Metrics().GetStemHW(), 5);
+  EXPECT_EQ(font.Metrics().GetFontType(), CFontMetrics::FontTypeTrueType);
+  font.Read(TrueTypeBuilder().Build());
+  EXPECT_EQ(font.Metrics().GetStemHW(), 0);
+}
+
+TEST(TrueTypeReader, FixedAPathWinsOverDataThatIsThere) {
+  const zebtest::TempDir folder;
+  TrueTypeFont font{TrueTypeBuilder()};
+  font.Metrics().SetStemHW(5);
+  TrueTypeBuilder wide;
+  wide.glyphs[3].width = 2048;
+  zebtest::WriteBytes(folder.File("wide.ttf"), wide.Build());
+  EXPECT_EQ(zebtest::RaisedKey([&] {
+              font.Information().ReadTT(nullptr, folder.WideFile("wide.ttf").c_str(), nullptr, false, true,
+                                        400, false);
+            }),
+            L"");
+  EXPECT_EQ(font.Metrics().GetWidthAt('A'), 1000);
+  EXPECT_EQ(font.Metrics().GetStemHW(), 5);
+}
+
+TEST(TrueTypeReader, FixedASecondReadingAddsTheLocalizedNameAgain) {
+  const zebtest::ScopedEnvironment language("LC_ALL", "C");
+  TrueTypeFont font{TrueTypeBuilder()};
+  font.ReadAgain(nullptr);
+  ASSERT_EQ(font.Metrics().GetLocalizedFontNameCount(), 2);
+  EXPECT_STREQ(font.Metrics().GetLocalizedFontNameAt(0), L"Probe Regular");
+  EXPECT_STREQ(font.Metrics().GetLocalizedFontNameAt(1), L"Probe Regular");
+}
+
+TEST(TrueTypeReader, FixedACodeKeepsTheGlyphOfTheFirstReading) {
+  TrueTypeFont font{TrueTypeBuilder()};
+  TrueTypeBuilder other;
+  other.cmaps = {{3, 1, TrueTypeBuilder::Format4({{0x41, 0x41, 4U - 0x41U, 0}})}};
+  font.Read(other.Build());
+  ASSERT_EQ(font.Failure(), L"");
+  unsigned short glyph = 0;
+  EXPECT_TRUE(font.Metrics().FindGlyphIndex('A', glyph));
+  EXPECT_EQ(glyph, 3);
+  EXPECT_EQ(font.Metrics().GetWidthAt('A'), 634);
+  EXPECT_EQ(font.File().GetTabHMtx()->GetEntryAt(4)->GetCodes(), (std::vector<unsigned short>{0x41}));
 }
 
 }  // namespace
