@@ -48,11 +48,12 @@ Face OpenFace(const std::filesystem::path& path, FT_Long index) {
   return FT_New_Face(FreeType(), path.c_str(), index, &face) == 0 ? Face(face) : nullptr;
 }
 
-/// The files of a kind under the folder of the system's fonts.
-std::vector<std::filesystem::path> FontFiles(const std::string& extension) {
+/// The files of a kind under a folder, that of the system's fonts if none is named.
+std::vector<std::filesystem::path> FontFiles(const std::string& extension,
+                                             const char* folder = "/usr/share/fonts") {
   std::vector<std::filesystem::path> files;
   std::error_code ignored;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator("/usr/share/fonts", ignored)) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder, ignored)) {
     if (entry.is_regular_file() && entry.path().extension() == extension) files.push_back(entry.path());
   }
   std::sort(files.begin(), files.end());
@@ -260,6 +261,30 @@ TEST_P(InstalledFontsCollections, AreReadByFullName) {
 
 INSTANTIATE_TEST_SUITE_P(TrueType, InstalledFontsCollections, testing::ValuesIn(FontFiles(".ttc")), TestName);
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(InstalledFontsCollections);
+
+/// A font of PostScript outlines. It has no table `glyf`, so it is refused wherever it comes from.
+class InstalledFontsPostScript : public testing::TestWithParam<std::filesystem::path> {};
+
+TEST_P(InstalledFontsPostScript, AreRefused) {
+  const Face face = OpenFace(GetParam(), 0);
+  ASSERT_NE(face, nullptr);
+  TrueTypeFont byPath;
+  byPath.ReadFile(zebtest::WidePath(GetParam()));
+  EXPECT_EQ(byPath.Failure(), L"TrueTypeCreationFailed");
+  EXPECT_EQ(byPath.Metrics().GetFontType(), CFontMetrics::FontTypeOpenType);
+  EXPECT_EQ(byPath.Metrics().GetTTFile(), nullptr);
+  const std::wstring name = NameOf(face.get(), 4);
+  if (name.empty() || name.size() > 32) return;
+  TrueTypeFont byName;
+  byName.ReadFace(name);
+  EXPECT_EQ(byName.Failure(), L"TrueTypeCreationFailed") << testing::PrintToString(name);
+  EXPECT_EQ(byName.Metrics().GetFontType(), CFontMetrics::FontTypeOpenType);
+}
+
+INSTANTIATE_TEST_SUITE_P(OpenType, InstalledFontsPostScript,
+                         testing::ValuesIn(FontFiles(".otf", "/usr/share/fonts/opentype/urw-base35")),
+                         TestName);
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(InstalledFontsPostScript);
 
 TEST(InstalledFontsByName, GiveTheFileOfTheFace) {
   const std::filesystem::path file = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf";
