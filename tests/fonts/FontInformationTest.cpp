@@ -117,4 +117,20 @@ TEST(FontInformation, VirtualOperationsStandInTheirOrder) {
   EXPECT_EQ(zebtest::VirtualSlot(&CFontInformation::Save), 3U);
 }
 
+// An attack: a file of more bytes than an `int` counts, of which the disk holds none.
+TEST(FontInformation, FilesOfTwoGigabytesTakeNoMemory) {
+  const zebtest::TempDir folder;
+  zebtest::WriteFile(folder.File("huge"), "");
+  fs::resize_file(folder.File("huge"), 2147483648U);
+  const std::wstring path = folder.WideFile("huge");
+  CFontInformation font(nullptr);
+  const std::wstring key = L"NoMoreMemoryLeft";
+  EXPECT_EQ(zebtest::RaisedKey([&] { font.ReadAFM(path.c_str()); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { font.ReadPFM(path.c_str()); }), key);
+  EXPECT_EQ(zebtest::RaisedKey([&] { font.ReadPFBPFA(path.c_str()); }), key);
+  EXPECT_EQ(
+      zebtest::RaisedKey([&] { font.ReadTT(nullptr, path.c_str(), nullptr, false, false, 400, false); }),
+      key);
+}
+
 }  // namespace
