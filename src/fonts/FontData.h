@@ -32,7 +32,8 @@ class ZEB_EXPORT CFontData {
   /// As the copy constructor. The block that this object held is not freed.
   CFontData& operator=(const CFontData& other);
 
-  /// Appends up to `count` bytes from an open file; the length grows by what the file gave. The cursor stays.
+  /// Appends up to `count` bytes from an open file that can seek; the length grows by what the file gave. The
+  /// cursor stays.
   void AddFontData(int fileHandle, int count);
   /// Appends `count` bytes from memory outside of this block. The cursor stays.
   void AddFontMemData(void* data, int count);
@@ -75,6 +76,7 @@ class ZEB_EXPORT CFontData {
 
   /// Stores at the cursor; cursor and length grow by what was stored. Numbers are big-endian.
   void WriteByte(unsigned char value);
+  /// @param data memory outside of this block, which may move
   void WriteBytes(void* data, int count);
   void WriteUShort(unsigned short value);
   void WriteUInt(unsigned int value);
@@ -93,8 +95,7 @@ class ZEB_EXPORT CFontData {
   unsigned int GetLongCheckSum(int pos, int count) const;
   /// Stores 0xB1B0AFBA less the check sum of the whole content at `pos`, big-endian.
   void CreateCheckSumAdjustment(int pos);
-  /// The largest exponent of a power of two that lies below `n`, counted from 0 for all `n` up to 4: 9 gives
-  /// 3, 8 gives 2.
+  /// The largest exponent of a power of two that lies below `n`; 0 for every `n` up to 2: 9 gives 3, 8 gives 2.
   int CalcMaxPow2(int n) const;
   /// The binary logarithm, truncated.
   int Log2(int n) const;

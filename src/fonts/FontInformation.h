@@ -53,25 +53,36 @@ class ZEB_EXPORT CFontInformation {
   /// The records of characters are nobody's: the caller frees them when it is done with the metrics.
   ///
   /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "WrongGlobalIndentifier" for a word that the reader
-  /// does not know; "TooManyCharacterCodes" for more characters than announced; "NoCharMetrics".
+  /// does not know; "TooManyCharacterCodes" for more characters than announced; "NoCharMetrics";
+  /// "NoMoreMemoryLeft", also for a file of 2 GiB or more.
   void ReadAFM(const wchar_t* path);
   /// Fills the PostScript metrics from a Windows PFM file and makes them current; they are made if there are none.
   /// A refused file may leave them partly filled.
-  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "IncorrectPFMFile".
+  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "IncorrectPFMFile"; "NoMoreMemoryLeft", also for a
+  /// file of 2 GiB or more.
   void ReadPFM(const wchar_t* path);
   /// Reads the font program of a PostScript font from a PFB or PFA file and makes the PostScript metrics current;
-  /// they are made if there are none. The metrics themselves stay as they are: read them first.
-  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "IncorrectPFAPFBFile".
+  /// they are made if there are none. The metrics themselves stay as they are: read them first. The program that they
+  /// have is replaced, and deleted if they own it. An incorrect file leaves a part of the new program.
+  /// Errors: "WrongParameter" without a path; "ReadFileFailure"; "IncorrectPFAPFBFile"; "NoMoreMemoryLeft", also for
+  /// a file of 2 GiB or more.
   void ReadPFBPFA(const wchar_t* path);
   /// Fills the TrueType metrics from a font and makes them current; they are made if there are none. PostScript
   /// metrics are freed.
+  ///
+  /// Use a new object for each font: names, glyphs of codes and characters of an earlier reading stay in part.
+  ///
+  /// After a refusal the TrueType metrics are current all the same: reset (unless data was reused) and perhaps partly
+  /// filled, with the bytes that were taken but without a parsed file. The PostScript metrics are gone.
   ///
   /// Errors: "WrongParameter", "ReadFileFailure", "TrueTypeCreationFailed", "NoMoreMemoryLeft",
   /// "IncorrectTrueTypeFile", "BitmapMACFontUnsupported", "FontEmbeddingNotAllowed", "UnknownException".
   /// @param faceName name of an installed font, at most 32 characters; where data is reused, the full name of the
   /// font in a collection; null if the font comes from elsewhere
-  /// @param filePath path of a font file; null if the font comes from elsewhere
-  /// @param encoding null, "1250", or anything else for WinAnsi
+  /// @param filePath path of a font file, which wins over a face name and over reused data; null if the font comes from
+  /// elsewhere
+  /// @param encoding null or "winansi1252" for WinAnsi, "1250" for code page 1250; anything else, the empty string too,
+  /// takes the characters of WinAnsi but leaves the encoding scheme as it was
   /// @param unicode whether the font is used with two-byte glyph codes and embedded as a subset
   /// @param reuseData whether the font data is in the metrics already and only has to be parsed
   /// @param bold the wanted weight, 400 normal

@@ -64,7 +64,8 @@ class ZEB_EXPORT CFontMetrics {
   /// The parsed file of a TrueType font; null for every other font. The object keeps it.
   virtual CTrueTypeFile* GetTTFile();
 
-  /// Sets the values that a reader of font files starts from; names, widths, maps and font data stay.
+  /// Sets the values that a reader of font files starts from. The encoding's name becomes "winansi1252"; the other
+  /// names, widths, maps and font data stay.
   void InitFontInformation();
   /// Works out the flags of the PDF font descriptor from the other values, replacing them as a whole.
   void BuildFontDescriptorFlag();
@@ -189,7 +190,7 @@ class ZEB_EXPORT CFontMetrics {
 
   /// The font program: the subset if there is one and the font is a Unicode font, else the whole program.
   CFontData* GetFontData() const;
-  /// Replaces the font program. The current one is deleted whether it is owned or not.
+  /// Replaces the font program. The current one is deleted whether it is owned or not, unless it is `data` itself.
   /// @param owner whether the destructor deletes `data`
   void SetFontData(CFontData* data, bool owner);
 
@@ -204,7 +205,8 @@ class ZEB_EXPORT CFontMetrics {
   /// Notes that a character is used.
   /// @return the code itself; with EmbedSubset the number of its glyph in the subset, 0 without a glyph
   unsigned short MapChar(unsigned short code);
-  /// How many glyphs are numbered so far, the glyphs 0, 1 and 2 included.
+  /// How many glyphs are numbered so far, the glyphs 0, 1 and 2 included. Components that only a subset brings in are
+  /// not counted.
   unsigned short GetUsedGlyphsCount() const;
   /// Fills a PDF CIDToGIDMap: the glyph of every code i below length / 2, big-endian. Nothing happens if the
   /// font is no TrueType font.
@@ -212,6 +214,10 @@ class ZEB_EXPORT CFontMetrics {
   void ConvertAllCodesToGlyphIDs(unsigned char* buffer, int length);
   /// Builds the subset font program from the used glyphs; afterwards GetFontData gives it for a Unicode font.
   /// Nothing happens if the font is no TrueType font.
+  ///
+  /// Call it once, when the document is finished: a glyph that MapChar meets first after a subset may get the number
+  /// of a component in it. While it runs, the font data is changed in place; at its end it is as it was.
+  /// Error: "NoMoreMemoryLeft"; there is no subset then.
   void CreateSubsetFont();
   /// Restores the component numbers that subsetting has changed in the source program.
   void ResetMapIndex(CFontData* source);

@@ -50,6 +50,7 @@ class ZEB_EXPORT CTrueTypeCMap4 {
 
   /// 0 for a symbol font, 1 for Unicode.
   unsigned short GetEncodingID() const;
+  /// 4; another number if the subtable has another format, which is not tested.
   unsigned short GetFormat() const;
   unsigned short GetLength() const;
   unsigned short GetVersion() const;

@@ -162,5 +162,5 @@ class ZEB_EXPORT CTrueTypeTabPCLT {
   unsigned short xHeight = 0;
   unsigned short capHeight = 0;
   unsigned char serifStyle = 0;
-  bool serif = false;  ///< set unless the two highest bits of serifStyle are 1
+  bool serif = false;  ///< set unless `serifStyle >> 6` is 1 (sans serif)
 };
