@@ -58,10 +58,10 @@ void CFontData::Resize(long long chunks) {
   if (capacity > INT_MAX) ThrowNoMoreMemory();
   const auto size = static_cast<std::size_t>(capacity);
   // A first block that the system gives zeroed need not be touched before it is used.
-  void* const buffer =
-      m_pBuffer == nullptr || m_pMapping != nullptr ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
+  const bool mapped = m_pBuffer != nullptr && m_pMapping != nullptr;
+  void* const buffer = m_pBuffer == nullptr || mapped ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
   if (buffer == nullptr) ThrowNoMoreMemory();
-  if (m_pMapping != nullptr) std::memcpy(buffer, m_pBuffer, static_cast<std::size_t>(m_iCapacity));
+  if (mapped) std::memcpy(buffer, m_pBuffer, static_cast<std::size_t>(m_iCapacity));
   delete std::exchange(m_pMapping, nullptr);
   m_pBuffer = static_cast<unsigned char*>(buffer);
   m_iCapacity = static_cast<int>(capacity);
