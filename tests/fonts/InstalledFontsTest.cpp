@@ -24,7 +24,6 @@
 
 namespace {
 
-using zebtest::Asked;
 using zebtest::TrueTypeFont;
 
 struct FaceDeleter {
