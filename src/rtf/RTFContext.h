@@ -13,7 +13,8 @@ class CRTFState;
 /// Font, colours, list and level stay valid as long as the parser.
 class ZEB_EXPORT CRTFContext {
  public:
-  /// A copy of the formatting at the moment of the call.
+  /// A copy of the formatting at the moment of the call. It is read only: in a table of more than 64 rows, what a
+  /// handler changes in the list of rows may show in later records.
   CRTFState* State = nullptr;  // observer
   /// Null if the document's font table has no such font.
   CRTFFont* Font = nullptr;  // observer

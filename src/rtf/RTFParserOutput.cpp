@@ -15,9 +15,16 @@ namespace {
 
 constexpr unsigned char kLineFeed = 10;
 
-/// Makes `shown` equal to `rows`. Both only grow at their ends between two calls, or are cut there, so that the
-/// search for what they have in common ends at the first row from behind that is in its place.
+/// As many rows are copied anew for every run.
+constexpr std::size_t kRowsCopiedAnew = 64;
+
+/// Makes `shown` equal to `rows`. Where those are many, rows that are in their place from behind are taken to be so up
+/// to the front: between two calls both only grow at their ends, or are cut there.
 void ShowRows(std::vector<CRTFTableRow*>& shown, const std::vector<CRTFTableRow*>& rows) {
+  if (rows.size() <= kRowsCopiedAnew) {
+    shown = rows;
+    return;
+  }
   std::size_t common = std::min(shown.size(), rows.size());
   while (common > 0 && shown[common - 1] != rows[common - 1]) --common;
   if (common == shown.size() && common == rows.size()) return;
@@ -55,6 +62,12 @@ bool CRTFParser::PropCanChangeContext(IPROP prop) {
 }
 
 void CRTFParser::FillState(CRTFState& state) {
+  // A handler may have changed any of these at the run before.
+  state.Next = nullptr;
+  state.Destination = rdsNorm;
+  state.InternalState = risNorm;
+  state.List = nullptr;
+  state.Level = nullptr;
   state.CharProps = m_CharProps;
   state.ParProps = m_ParProps;
   state.SecProps = m_SecProps;

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -232,6 +233,66 @@ TEST(RTFOutputTest, RecordIsACopy) {
     EXPECT_EQ(run.m_State.DocProps.Rows.size(), 1U);
   }
   EXPECT_NE(handler.m_Runs[1].m_State.DocProps.CurrentCell, nullptr);
+}
+
+/// Spoils in the first record what a parser does not read.
+class FirstRecordSpoiler final : public zebtest::RecordingHandler {
+ public:
+  void OnContextChanged(const wchar_t* text, CRTFContext* context) override {
+    RecordingHandler::OnContextChanged(text, context);
+    if (m_Runs.size() > 1) return;
+    CRTFState& state = *context->State;
+    state.Next = &m_State;
+    state.Destination = CRTFParser::rdsSkip;
+    state.InternalState = CRTFParser::risHex;
+    state.List = &m_List;
+    state.Level = &m_Level;
+    state.ParProps.Tabs[0].Position = 77;
+    if (!state.DocProps.Rows.empty()) state.DocProps.Rows[0] = nullptr;
+  }
+
+ private:
+  CRTFState m_State;
+  CRTFListTableEntry m_List;
+  CRTFListLevelEntry m_Level;
+};
+
+TEST(RTFOutputTest, RecordIsFreshAtEveryCall) {
+  std::string data = R"({\trowd\cellx10\trowd\cellx20\cellx30\intbl a\cell b\cell\row})";
+  FirstRecordSpoiler handler;
+  CRTFParser parser(reinterpret_cast<unsigned char*>(data.data()), static_cast<int>(data.size()), &handler,
+                    nullptr);
+  EXPECT_EQ(parser.RtfParse(), 0);
+  ASSERT_EQ(handler.Outline(), L"[a]P[b]P[]T");
+  const CRTFState& first = handler.m_Runs[0].m_State;
+  const CRTFState& second = handler.m_Runs[1].m_State;
+  ASSERT_EQ(second.DocProps.Rows.size(), 2U);
+  EXPECT_NE(second.DocProps.Rows[0], nullptr);
+  EXPECT_EQ(second.DocProps.Rows, first.DocProps.Rows);
+  EXPECT_EQ(second.Next, nullptr);
+  EXPECT_EQ(second.Destination, CRTFParser::rdsNorm);
+  EXPECT_EQ(second.InternalState, CRTFParser::risNorm);
+  EXPECT_EQ(second.List, nullptr);
+  EXPECT_EQ(second.Level, nullptr);
+  EXPECT_EQ(std::as_const(second).ParProps.Tabs[0].Position, 0);
+}
+
+/// A handler that spoils the first row of its first record, and then gets one of so many rows.
+const CRTFTableRow* FirstRowOfTheSecondRecord(int rows) {
+  std::string data = "{";
+  for (int row = 0; row < rows; ++row) data += R"(\trowd\cellx10)";
+  data += R"(\intbl a\cell b\cell})";
+  FirstRecordSpoiler handler;
+  CRTFParser parser(reinterpret_cast<unsigned char*>(data.data()), static_cast<int>(data.size()), &handler,
+                    nullptr);
+  EXPECT_EQ(parser.RtfParse(), 0);
+  EXPECT_EQ(handler.m_Runs.at(1).m_State.DocProps.Rows.size(), static_cast<std::size_t>(rows));
+  return handler.m_Runs.at(1).m_State.DocProps.Rows.at(0);
+}
+
+TEST(RTFOutputTest, RowsOfLongTablesAreCarriedOn) {
+  EXPECT_NE(FirstRowOfTheSecondRecord(64), nullptr);
+  EXPECT_EQ(FirstRowOfTheSecondRecord(65), nullptr);
 }
 
 // Tabs.
