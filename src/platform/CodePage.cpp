@@ -25,25 +25,9 @@ class SymbolConverter : public CodePageConverter {
   }
 };
 
-/// The Windows page that stands in for a double-byte Macintosh page; any other page itself.
-int NearestPage(int number) {
-  switch (number) {
-    case 10001:
-      return 932;  // Japanese
-    case 10002:
-      return 950;  // traditional Chinese
-    case 10003:
-      return 949;  // Korean
-    case 10008:
-      return 936;  // simplified Chinese
-    default:
-      return number;
-  }
-}
-
 std::unique_ptr<CodePageConverter> OpenConverter(int number) {
   if (number == kSymbolPage) return std::make_unique<SymbolConverter>();
-  std::unique_ptr<CodePageConverter> converter = CodePageConverter::Open(NearestPage(number));
+  std::unique_ptr<CodePageConverter> converter = CodePageConverter::Open(number);
   return converter != nullptr ? std::move(converter) : CodePageConverter::Open(kDefaultPage);
 }
 

@@ -13,9 +13,9 @@ class CodePageConverter;
 
 /// A code page of the character sets of RTF, by the number that Windows gives it.
 ///
-/// Page 42 maps the bytes from 0x20 on onto U+F020 to U+F0FF. The double-byte Macintosh pages are the nearest Windows
-/// pages. A page is made at its first use and kept for the process: one table of 256 characters and, for a double-byte
-/// page, an open conversion and one table more for each lead byte that was met.
+/// Page 42 maps the bytes from 0x20 on onto U+F020 to U+F0FF. A page is made at its first use and kept for the process:
+/// one table of 256 characters and, for a double-byte page, an open conversion and one table more for each lead byte that
+/// was met.
 class CodePage {
  public:
   /// @param number 0 for the system's default page; a page that the system does not know is 1252

@@ -12,6 +12,22 @@ namespace zeb {
 
 namespace {
 
+/// The Windows page that stands in for a double-byte Macintosh page, of which there is none here; any other page itself.
+int NearestPage(int number) {
+  switch (number) {
+    case 10001:
+      return 932;  // Japanese
+    case 10002:
+      return 950;  // traditional Chinese
+    case 10003:
+      return 949;  // Korean
+    case 10008:
+      return 936;  // simplified Chinese
+    default:
+      return number;
+  }
+}
+
 class MacintoshConverter : public CodePageConverter {
  public:
   explicit MacintoshConverter(const MacintoshPage& page) : m_Page(page) {}
@@ -56,7 +72,7 @@ std::unique_ptr<CodePageConverter> CodePageConverter::Open(int number) {
       std::find_if(kMacintoshPages.begin(), kMacintoshPages.end(),
                    [&](const MacintoshPage& page) { return page.Number == number; });
   if (macintosh != kMacintoshPages.end()) return std::make_unique<MacintoshConverter>(*macintosh);
-  auto converter = std::make_unique<IconvConverter>(number);
+  auto converter = std::make_unique<IconvConverter>(NearestPage(number));
   if (!converter->IsOpen()) return nullptr;
   return converter;
 }
