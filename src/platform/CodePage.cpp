@@ -11,7 +11,6 @@ namespace zeb {
 
 namespace {
 
-constexpr int kDefaultPage = 1252;
 constexpr int kSymbolPage = 42;
 
 /// The page of fonts with signs instead of letters: a corner of the private use area.
@@ -27,8 +26,7 @@ class SymbolConverter : public CodePageConverter {
 
 std::unique_ptr<CodePageConverter> OpenConverter(int number) {
   if (number == kSymbolPage) return std::make_unique<SymbolConverter>();
-  std::unique_ptr<CodePageConverter> converter = CodePageConverter::Open(number);
-  return converter != nullptr ? std::move(converter) : CodePageConverter::Open(kDefaultPage);
+  return CodePageConverter::Open(number);
 }
 
 }  // namespace
@@ -37,8 +35,9 @@ CodePage::CodePage(std::unique_ptr<CodePageConverter> converter)
     : m_pConverter(std::move(converter)), m_Characters(), m_Kinds() {
   for (std::size_t byte = 0; byte < m_Characters.size(); ++byte) {
     const auto value = static_cast<unsigned char>(byte);
+    // A page that the platform does not know is one of gaps.
     const std::optional<std::int32_t> code =
-        m_pConverter != nullptr ? m_pConverter->Convert({&value, 1}) : std::int32_t{value};
+        m_pConverter != nullptr ? m_pConverter->Convert({&value, 1}) : std::int32_t{-1};
     m_Characters[byte] = static_cast<wchar_t>(code.value_or(-1) < 0 ? value : *code);
     m_Kinds[byte] = !code ? ByteKind::Lead : *code < 0 ? ByteKind::Gap : ByteKind::Character;
   }

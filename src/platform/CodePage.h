@@ -18,7 +18,7 @@ class CodePageConverter;
 /// was met.
 class CodePage {
  public:
-  /// @param number 0 for the system's default page; a page that the system does not know is 1252
+  /// @param number 0 for the system's default page; a page that the platform does not know lacks every byte
   static const CodePage& Of(int number);
   ~CodePage();
   CodePage(const CodePage&) = delete;

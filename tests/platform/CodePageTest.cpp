@@ -202,7 +202,12 @@ TEST(CodePage, TakesTheSystemsPageForZero) {
   EXPECT_EQ(CharacterOf(0, 0x80), 0x20AC);
 }
 
-TEST(CodePage, TakesAnUnknownPageAs1252) { EXPECT_EQ(CharacterOf(4711, 0x80), 0x20AC); }
+TEST(CodePage, AnUnknownPageLacksEveryByte) {
+  EXPECT_EQ(CharacterOf(4711, 0x80), 0x80);
+  EXPECT_EQ(CharacterOf(4711, 'A'), L'A');
+  EXPECT_EQ(Pair(4711, 0x80, 0xE4), L"\x80\xE4");
+  EXPECT_EQ(Convert(4711, {'A'}), std::nullopt);
+}
 
 TEST(CodePage, MakesAPageOnce) { EXPECT_EQ(&CodePage::Of(1251), &CodePage::Of(1251)); }
 
