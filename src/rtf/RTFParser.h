@@ -328,11 +328,12 @@ class ZEB_EXPORT CRTFParser {
   CSectionProperties m_SecProps;
   CDocumentProperties m_DocProps;
   CFontProperties m_FontProps;
-  CRTFState* m_pStack;          // owned, shared by copies
-  int m_cbBin;                  // raw bytes still to come
-  int m_lParam;                 // the last number of a keyword, without its sign
-  bool m_bSkipDestIfUnknown;    // a \* has just been read
-  PropertyRow* m_pPropTable;    // owned, shared by copies
+  CRTFState* m_pStack;        // owned, shared by copies
+  int m_cbBin;                // raw bytes still to come
+  int m_lParam;               // the last number of a keyword, without its sign
+  bool m_bSkipDestIfUnknown;  // a \* has just been read
+  PropertyRow* m_pPropTable;  // owned, shared by copies
+  // Keywords are looked up in the built-in table of the same order: renaming a row has no effect.
   KeywordRow* m_pKeywordTable;  // owned, shared by copies
   int m_KeywordCount;
   std::map<int, CRTFFont*> m_Fonts;              // owned, shared by copies

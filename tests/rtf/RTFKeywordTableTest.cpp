@@ -253,6 +253,19 @@ TEST(RTFKeywordTable, IsCopiedIntoEachParser) {
   }
 }
 
+TEST(RTFKeywordTable, RowsOfAParserAreFoundByTheirBuiltInKeyword) {
+  ParserProbe probe("\\bold \\b \n");
+  Parser::KeywordRow& row = probe.m_pKeywordTable[zeb::FindRTFKeyword("b")];
+  row.Keyword = "bold";
+  row.Default = 5;
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(probe.m_CharProps.Bold, 5);
+  ParserProbe renamed("\\bold \n");
+  renamed.m_pKeywordTable[zeb::FindRTFKeyword("b")].Keyword = "bold";
+  EXPECT_EQ(renamed.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(renamed.m_CharProps.Bold, 0);
+}
+
 TEST(RTFKeywordTable, CharacterKeywordsAreCharacters) {
   zebtest::RTFReading reading("{\\rtf1 a\\tab b\\ldblquote c\\rdblquote d\\{\\}\\\\}");
   EXPECT_EQ(reading.Text(), L"a\tb\"c\"d{}\\");
