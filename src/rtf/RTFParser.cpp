@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <new>
 #include <string_view>
 
 /// The byte that two hex digits make up, as far as they have been read.
@@ -123,6 +124,17 @@ CRTFParser::~CRTFParser() {
 std::wstring CRTFParser::GetTextContent() const { return m_TextBuffer; }
 
 int CRTFParser::RtfParse() {
+  m_pStore->m_bInHandler = false;
+  try {
+    return ParseData();
+  } catch (const std::bad_alloc&) {
+    // What a handler throws is its caller's to know.
+    if (m_pStore->m_bInHandler) throw;
+    return rtfNoMemory;
+  }
+}
+
+int CRTFParser::ParseData() {
   char pending[2] = {0, 0};  // a hex byte that waits for a second one
   HexByte hex;
   for (;;) {

@@ -28,9 +28,9 @@ struct RTFStore;
 /// document of its own.
 ///
 /// A parser reads once. Fonts, colours, styles and lists stay until it is destroyed, so that a handler can look
-/// them up during and after the run. Nothing is thrown for what the data holds: a failure is a result code, and
-/// the run ends at the first one. Any bytes may be given: no byte outside of the data is read, nesting is bounded
-/// by memory alone and no operation recurses.
+/// them up during and after the run. Nothing is thrown but by handlers: a failure, a lack of memory too, is a result
+/// code, and the run ends at the first one. Any bytes may be given: no byte outside of the data is read, nesting is
+/// bounded by memory alone and no operation recurses.
 class ZEB_EXPORT CRTFParser {
  public:
   /// Where characters go.
@@ -68,7 +68,7 @@ class ZEB_EXPORT CRTFParser {
   enum ResultCode : int {
     rtfOK = 0,
     rtfStackUnderflow = 1,  // a closing brace without a group
-    rtfNoMemory = 2,        // no memory for the state of a group
+    rtfNoMemory = 2,        // no memory for the state of a group, or for anything else
     rtfUnmatchedBrace = 3,  // the data ends inside of a group
     rtfInvalidHex = 4,      // a hex byte with something else than a digit
     rtfBadTable = 5,        // a keyword that the reader cannot handle here
@@ -375,6 +375,8 @@ class ZEB_EXPORT CRTFParser {
  private:
   // The loop and its keywords.
   struct HexByte;
+  /// RtfParse without its answer to a lack of memory.
+  int ParseData();
   /// @param pending two bytes: a hex byte that waits for a second one, zero if there is none
   int ParseByte(unsigned char ch, HexByte& hex, char* pending);
   int ParseHexDigit(unsigned char ch, HexByte& hex, char* pending);
@@ -454,6 +456,7 @@ class ZEB_EXPORT CRTFParser {
   void ParsePictureByte();
   void EndBookmarkStart();
   void EndBookmarkEnd();
+  void HandOnBookmark(bool start);
   void FillState(CRTFState& state);
   void DescribeRow(IPROP prop, int value);
   void NewRow();

@@ -4,6 +4,7 @@
 #include "rtf/RTFStore.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,13 +33,15 @@ void TakeLevels(CRTFListTableEntry& list, std::vector<CRTFListLevelEntry*>& leve
 }  // namespace
 
 void CRTFParser::BeginList() {
-  m_pStore->m_Tables.m_Lists.push_back(nullptr);
-  m_pCurList = m_pStore->m_Tables.m_Lists.back() = new CRTFListTableEntry;
+  auto list = std::make_unique<CRTFListTableEntry>();
+  m_pStore->m_Tables.m_Lists.push_back(list.get());
+  m_pCurList = list.release();
 }
 
 void CRTFParser::BeginListLevel() {
-  m_pStore->m_Tables.m_Levels.push_back(nullptr);
-  m_pCurLevel = m_pStore->m_Tables.m_Levels.back() = new CRTFListLevelEntry;
+  auto level = std::make_unique<CRTFListLevelEntry>();
+  m_pStore->m_Tables.m_Levels.push_back(level.get());
+  m_pCurLevel = level.release();
 }
 
 void CRTFParser::EndListTable() {

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
+#include <utility>
 #include <vector>
 
 // The closing of runs: what goes to the handler, and when.
@@ -105,7 +107,9 @@ void CRTFParser::ContextHasChanged(bool paragraphEnd, bool lineBreak, bool table
         GetColorAtID(ColorIndex(m_CharProps.CharBackColor, m_ParProps.BackColor, m_FontProps.BackColorIndex));
     context.List = m_pCurList;
     context.Level = m_pCurLevel;
+    m_pStore->m_bInHandler = true;
     m_pContextHandler->OnContextChanged(m_TextBuffer.c_str(), &context);
+    m_pStore->m_bInHandler = false;
   }
   m_TextBuffer.clear();
   FreePicture();
@@ -129,13 +133,16 @@ int CRTFParser::ParseTabStop(int value) {
   return rtfOK;
 }
 
-void CRTFParser::EndBookmarkStart() {
-  if (m_pContextHandler != nullptr) m_pContextHandler->OnBookmark(m_BookmarkBuffer, true);
-  m_BookmarkBuffer.clear();
-}
+void CRTFParser::EndBookmarkStart() { HandOnBookmark(true); }
+void CRTFParser::EndBookmarkEnd() { HandOnBookmark(false); }
 
-void CRTFParser::EndBookmarkEnd() {
-  if (m_pContextHandler != nullptr) m_pContextHandler->OnBookmark(m_BookmarkBuffer, false);
+void CRTFParser::HandOnBookmark(bool start) {
+  if (m_pContextHandler != nullptr) {
+    std::wstring name = m_BookmarkBuffer;
+    m_pStore->m_bInHandler = true;
+    m_pContextHandler->OnBookmark(std::move(name), start);
+    m_pStore->m_bInHandler = false;
+  }
   m_BookmarkBuffer.clear();
 }
 

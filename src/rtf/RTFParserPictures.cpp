@@ -1,6 +1,8 @@
 #include "fonts/FontData.h"
+#include "foundation/KXException.h"
 #include "rtf/PictureConvertHandler.h"
 #include "rtf/RTFParser.h"
+#include "rtf/RTFStore.h"
 
 #include <algorithm>
 #include <array>
@@ -8,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <vector>
 
 // Pictures: which ones are read, their hex digits, and their conversion by the caller.
@@ -46,9 +49,14 @@ constexpr std::array<std::uint16_t, 256> kDigits = [] {
 /// A new store, owned by the caller.
 CFontData* MakeStore(unsigned char* bytes, std::size_t count) {
   const std::size_t chunk = std::clamp<std::size_t>(count, 1, kStoreChunk);
-  auto store = std::make_unique<CFontData>(static_cast<int>(chunk), false);
-  store->AddFontMemData(bytes, static_cast<int>(std::min<std::size_t>(count, INT_MAX)));
-  return store.release();
+  try {
+    auto store = std::make_unique<CFontData>(static_cast<int>(chunk), false);
+    store->AddFontMemData(bytes, static_cast<int>(std::min<std::size_t>(count, INT_MAX)));
+    return store.release();
+  } catch (const CKXException&) {
+    // A store fails for lack of memory alone.
+    throw std::bad_alloc();
+  }
 }
 
 }  // namespace
@@ -135,10 +143,11 @@ bool CRTFParser::ConvertPicture(int format) {
   if (m_pPictureHandler == nullptr) return false;
   const auto converted = std::make_unique_for_overwrite<unsigned char[]>(kConvertedRoom);
   int length = kConvertedRoom;
-  if (!m_pPictureHandler->ConvertPicture(format, m_pPicture->GetData(), m_pPicture->GetLength(), 0,
-                                         converted.get(), &length)) {
-    return false;
-  }
+  m_pStore->m_bInHandler = true;
+  const bool isConverted = m_pPictureHandler->ConvertPicture(
+      format, m_pPicture->GetData(), m_pPicture->GetLength(), 0, converted.get(), &length);
+  m_pStore->m_bInHandler = false;
+  if (!isConverted) return false;
   // What the converter claims beyond the room is not there.
   length = std::clamp(length, 0, kConvertedRoom);
   CFontData* const store = MakeStore(converted.get(), static_cast<std::size_t>(length));

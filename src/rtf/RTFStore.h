@@ -12,6 +12,8 @@ namespace zeb {
 /// What a CRTFParser owns and keeps beside the members that its interface shows. Freed with the parser.
 struct RTFStore {
   RTFDestinationTables m_Tables;
+  /// A handler of the caller is at work, or has thrown.
+  bool m_bInHandler = false;
   /// How many tables have been freed. A saved state of an earlier count has no table any more.
   int m_iFreedTables = 0;
   /// All rows and cells of all tables. They outlive their tables, since records of handlers may still name them.
