@@ -10,6 +10,10 @@ class CPDFCharCollName;
 class CPostscriptFontMetrics;
 class CTrueTypeFontMetrics;
 
+namespace zeb {
+class RecordReader;
+}
+
 namespace zebxmln {
 class CXMLNode;
 }
@@ -97,6 +101,23 @@ class ZEB_EXPORT CFontInformation {
   CTrueTypeFontMetrics& UseTrueTypeMetrics();
   /// Calls ReadTT for the font that the current metrics tell of.
   void ReadAgain(bool reuseData);
+  /// The place of a program in its metrics.
+  struct ProgramPlace {
+    CFontData*& Data;  // owned if IsOwned
+    bool& IsOwned;
+  };
+
+  ProgramPlace PlaceOfProgram();
+  /// Puts a program in the place of that of the current metrics. What is the pool's stays the pool's.
+  void ReplaceProgram(CFontData* data, bool owner);
+  /// The program of the current metrics, to be changed. A new one takes the place of one that they do not own.
+  CFontData& OwnProgram();
+  /// Reads the program that old files hold.
+  /// @return whether the record has one
+  bool ReadProgram(zeb::RecordReader& record);
+  /// Puts the pool's program of the font in the place of its own.
+  /// @return whether the pool has one
+  bool TakeFromPool();
   /// Gets the program of a TrueType font from the operating system and hands it to the pool.
   void LoadFromSystem();
 

@@ -4,6 +4,7 @@
 #include "fonts/FontData.h"
 #include "fonts/FontErrors.h"
 #include "fonts/FontPool.h"
+#include "fonts/PostscriptFontMetrics.h"
 #include "fonts/TrueTypeFontMetrics.h"
 #include "foundation/ErrorKeys.h"
 #include "foundation/KXException.h"
@@ -195,35 +196,11 @@ bool IsTrueType(zebxmln::CXMLNode* node) {
   return record.Read(kFontType, type) && type == CFontMetrics::FontTypeTrueType;
 }
 
-/// Reads the program that old files hold. FontDataLength has no use but to empty what there was.
-/// @return whether the record has one
-bool ReadProgram(RecordReader& record, CFontMetrics& metrics) {
-  if (record.Take(kFontDataLength) != nullptr) metrics.SetFontData(new CFontData(false), true);
-  zebxmln::CXMLNode* const element = record.Take(kFontData);
-  if (element == nullptr) return false;
-  if (auto* const content = dynamic_cast<zebxmln::CXMLBinNode*>(element->GetFirstChildNode())) {
-    void* bytes = nullptr;
-    int length = 0;
-    content->GetBinaryData(&bytes, &length);
-    if (CFontData* const data = metrics.GetFontData()) data->AddFontMemData(bytes, length);
-  }
-  // Fixed behaviour: the element alone counts, whatever it holds.
-  return true;
-}
-
 std::vector<CFontCharMetricsInfo*> CharactersOf(const CFontMetrics& metrics) {
   std::vector<CFontCharMetricsInfo*> characters;
   for (int i = 0; i < metrics.GetFontCharMetricsCount(); ++i)
     characters.push_back(metrics.GetFontCharMetricsAt(i));
   return characters;
-}
-
-/// Puts the pool's program of the font in the place of its own.
-/// @return whether the pool has one
-bool TakeFromPool(CFontMetrics& metrics) {
-  CFontData* const data = CFontPool::GetInstance().GetFontData(metrics.GetBaseFont());
-  if (data != nullptr) metrics.SetFontData(data, false);
-  return data != nullptr;
 }
 
 void GiveToPool(const CFontMetrics& metrics) {
@@ -243,13 +220,55 @@ bool CFontInformation::Load(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
   ReadCharacters(record, metrics);
   ReadAll(record, kCodeRange, metrics);
   ReadWidths(record, metrics);
-  const bool hasProgram = ReadProgram(record, metrics);
+  const bool hasProgram = ReadProgram(record);
   ReadAll(record, kStyle, metrics);
-  if (!hasProgram && !TakeFromPool(metrics) && metrics.GetFontType() == CFontMetrics::FontTypeTrueType) {
+  if (!hasProgram && !TakeFromPool() && metrics.GetFontType() == CFontMetrics::FontTypeTrueType) {
     LoadFromSystem();
   }
   if (m_pMetrics->GetFontType() == CFontMetrics::FontTypeTrueType) ReadAgain(true);
   return true;
+}
+
+CFontInformation::ProgramPlace CFontInformation::PlaceOfProgram() {
+  if (m_pMetrics == m_pTrueTypeMetrics) {
+    return {m_pTrueTypeMetrics->m_pFontData, m_pTrueTypeMetrics->m_bFontDataOwner};
+  }
+  return {m_pPostscriptMetrics->m_pFontData, m_pPostscriptMetrics->m_bFontDataOwner};
+}
+
+void CFontInformation::ReplaceProgram(CFontData* data, bool owner) {
+  // The metrics would free it.
+  if (const ProgramPlace place = PlaceOfProgram(); !place.IsOwned) place.Data = nullptr;
+  m_pMetrics->SetFontData(data, owner);
+}
+
+CFontData& CFontInformation::OwnProgram() {
+  const ProgramPlace place = PlaceOfProgram();
+  if (place.Data != nullptr && place.IsOwned) return *place.Data;
+  auto* const program = new CFontData(false);
+  ReplaceProgram(program, true);
+  return *program;
+}
+
+// FontDataLength has no use but to empty what there was.
+bool CFontInformation::ReadProgram(RecordReader& record) {
+  if (record.Take(kFontDataLength) != nullptr) ReplaceProgram(new CFontData(false), true);
+  zebxmln::CXMLNode* const element = record.Take(kFontData);
+  if (element == nullptr) return false;
+  if (auto* const content = dynamic_cast<zebxmln::CXMLBinNode*>(element->GetFirstChildNode())) {
+    void* bytes = nullptr;
+    int length = 0;
+    content->GetBinaryData(&bytes, &length);
+    OwnProgram().AddFontMemData(bytes, length);
+  }
+  // Fixed behaviour: the element alone counts, whatever it holds.
+  return true;
+}
+
+bool CFontInformation::TakeFromPool() {
+  CFontData* const data = CFontPool::GetInstance().GetFontData(m_pMetrics->GetBaseFont());
+  if (data != nullptr) ReplaceProgram(data, false);
+  return data != nullptr;
 }
 
 void CFontInformation::ReadAgain(bool reuseData) {
@@ -273,7 +292,7 @@ void CFontInformation::LoadFromSystem() {
   try {
     ReadAgain(false);
     GiveToPool(*m_pMetrics);
-    TakeFromPool(*m_pMetrics);
+    TakeFromPool();
   } catch (const CKXException&) {
     zeb::ThrowFontError(zeb::ErrorKeys::FontPoolIncomplete, name.c_str());
   }

@@ -325,6 +325,38 @@ TEST(FontInformationRecord, TheProgramComesFromThePool) {
   EXPECT_EQ(BytesOf(pool->GetFontData(L"Sample-Roman")), "pool") << "the pool keeps it";
 }
 
+TEST(FontInformationRecord, TheProgramOfAnotherFontTakesThePlaceOfOneThatThePoolKeeps) {
+  const ScopedFontPool pool;
+  Store("S", "first");
+  Store("T", "second");
+  ReadFont font;
+  LoadRecord(font.Font(), Record(Scalars("0", "S") + kTail));
+  LoadRecord(font.Font(), Record(Scalars("0", "T") + kTail));
+  EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"T"));
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"S")), "first");
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"T")), "second");
+}
+
+TEST(FontInformationRecord, AProgramInTheRecordIsNotAddedToOneThatThePoolKeeps) {
+  for (const char* const length : {"", "<FontDataLength>3</FontDataLength>"}) {
+    const ScopedFontPool pool;
+    Store("S", "first");
+    ReadFont font;
+    LoadRecord(font.Font(), Record(Scalars("0", "S") + kTail));
+    LoadRecord(font.Font(),
+               Record(Scalars("0", "T") + length + "<FontData><BinaryData>YWJj</BinaryData></FontData>"));
+    EXPECT_EQ(BytesOf(font->GetFontData()), "abc") << length;
+    EXPECT_EQ(BytesOf(pool->GetFontData(L"S")), "first") << length;
+  }
+}
+
+TEST(FontInformationRecord, AProgramInTheRecordNeedsNoneBefore) {
+  ReadFont font;
+  font->SetFontData(nullptr, true);
+  LoadRecord(font.Font(), Record(Scalars() + "<FontData><BinaryData>YWJj</BinaryData></FontData>"));
+  EXPECT_EQ(BytesOf(font->GetFontData()), "abc");
+}
+
 TEST(FontInformationRecord, APostScriptFontWithoutProgramLoads) {
   const ScopedFontPool pool;
   ReadFont font;
@@ -472,6 +504,18 @@ TEST(FontInformationRecord, FixedOfASubsetThePoolGetsTheSubset) {
   ASSERT_LT(font->GetFontData()->GetLength(), 4212);
   SaveRecord(font.Font());
   EXPECT_EQ(BytesOf(pool->GetFontData(L"LG Code 39")), BytesOf(font->GetFontData()));
+}
+
+TEST(FontInformationRecord, ATrueTypeFontThatIsReadAgainLeavesThePoolsProgram) {
+  const ScopedFontPool pool;
+  const std::vector<unsigned char> probe = zebtest::TrueTypeBuilder().Build();
+  Store("S", {probe.begin(), probe.end()});
+  Store("T", {probe.begin(), probe.end()});
+  ReadFont font;
+  LoadRecord(font.Font(), Record(Scalars("2", "S") + kTail));
+  LoadRecord(font.Font(), Record(Scalars("2", "T") + kTail));
+  EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"T"));
+  EXPECT_EQ(BytesOf(pool->GetFontData(L"S")), BytesOf(pool->GetFontData(L"T")));
 }
 
 /// A collection of "Probe Regular" and "Other Full", whose A is as wide as the em.
