@@ -4,6 +4,7 @@
 #include "platform/Export.h"
 
 class CEncodingInformation;
+class CFontInformation;
 class CFonts;
 class CIDManager;
 class CPDFCharCollName;
@@ -12,7 +13,8 @@ class CTrueTypeFontMetrics;
 
 namespace zeb {
 class RecordReader;
-}
+int BytesFromSystem(const CFontInformation& font);
+}  // namespace zeb
 
 namespace zebxmln {
 class CXMLNode;
@@ -95,6 +97,8 @@ class ZEB_EXPORT CFontInformation {
               bool reuseData, int bold, bool italic);
 
  private:
+  friend int zeb::BytesFromSystem(const CFontInformation& font);
+
   /// The PostScript metrics, made if there are none.
   CPostscriptFontMetrics& PostscriptMetrics();
   /// The TrueType metrics, made if there are none, which become current; PostScript metrics are freed.
@@ -125,4 +129,5 @@ class ZEB_EXPORT CFontInformation {
   CPostscriptFontMetrics* m_pPostscriptMetrics;  // owned, shared by copies
   CTrueTypeFontMetrics* m_pTrueTypeMetrics;      // owned, shared by copies
   CFonts* m_pOwner;                              // observer
+  bool m_bSystemProgram = false;                 // whether Load got a program that the pool did not take
 };

@@ -214,6 +214,7 @@ void GiveToPool(const CFontMetrics& metrics) {
 
 bool CFontInformation::Load(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
   if (m_pTrueTypeMetrics == nullptr && IsTrueType(node)) UseTrueTypeMetrics();
+  m_bSystemProgram = false;
   RecordReader record(node);
   CFontMetrics& metrics = *m_pMetrics;
   ReadAll(record, kScalars, metrics);
@@ -292,7 +293,7 @@ void CFontInformation::LoadFromSystem() {
   try {
     ReadAgain(false);
     GiveToPool(*m_pMetrics);
-    TakeFromPool();
+    m_bSystemProgram = !TakeFromPool();
   } catch (const CKXException&) {
     zeb::ThrowFontError(zeb::ErrorKeys::FontPoolIncomplete, name.c_str());
   }

@@ -4,9 +4,12 @@
 #include "fonts/EncodingInformation.h"
 #include "fonts/Encodings.h"
 #include "fonts/FontCharMetricsInfo.h"
+#include "fonts/FontData.h"
+#include "fonts/FontErrors.h"
 #include "fonts/FontInformation.h"
 #include "fonts/Fonts.h"
 #include "fonts/GlobalFontHandler.h"
+#include "foundation/ErrorKeys.h"
 
 #include <memory>
 
@@ -43,16 +46,24 @@ struct FontWithCharacters {
 
 void ReadFonts(RecordReader& reader, CFonts& fonts, CIDManager& ids) {
   int count = 0;
+  long long systemBytes = 0;
   while (zebxmln::CXMLNode* record = reader.Take(kFontInformation)) {
     if (count++ >= kMostFontsOfFile) continue;
     std::unique_ptr<CFontInformation, FontWithCharacters> font(new CFontInformation(&fonts));
     font->Load(record, ids);
+    systemBytes += BytesFromSystem(*font);
+    if (systemBytes > kMostSystemBytesOfFile) ThrowFontError(ErrorKeys::NoMoreMemoryLeft);
     fonts.AddFont(font.get());
     static_cast<void>(font.release());
   }
 }
 
 }  // namespace
+
+int BytesFromSystem(const CFontInformation& font) {
+  const CFontData* const program = font.GetFontMetrics()->GetFontData();
+  return font.m_bSystemProgram && program != nullptr ? program->GetLength() : 0;
+}
 
 void ReadFontRecords(RecordReader& reader, CGlobalFontHandler& handler, CIDManager& ids) {
   ReadFonts(reader, *handler.GetFonts(), ids);

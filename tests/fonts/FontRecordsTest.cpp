@@ -8,8 +8,11 @@
 #include "fonts/GlobalFontHandler.h"
 #include "model/ReportDocument.h"
 #include "model/ReportLayout.h"
+#include "support/FontMachine.h"
 #include "support/RaisedKey.h"
 #include "support/RecordFixture.h"
+#include "support/ScopedFontPool.h"
+#include "support/TrueTypeBuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -208,6 +211,48 @@ TEST(FontRecords, ManyFontsAreCut) {
   EXPECT_EQ(document.GetFontHandler()->GetFonts()->GetFontCount(),
             StandardFontCount() + zeb::kMostFontsOfFile);
   EXPECT_STREQ(document.GetReportLayoutName(), L"l.xml");
+}
+
+// Attack: short records that each name a large installed font.
+
+constexpr int kLargeFont = 2 * 1024 * 1024;
+constexpr int kMostLargeFonts = static_cast<int>(zeb::kMostSystemBytesOfFile / kLargeFont);
+
+/// Installs "Probe Regular" with bytes behind its tables.
+void InstallLargeFont(const zebtest::FontMachine& machine) {
+  std::vector<unsigned char> bytes = zebtest::TrueTypeBuilder().Build();
+  bytes.resize(kLargeFont);
+  machine.Install("large.ttf", bytes);
+}
+
+std::string DocumentOfLargeFonts(int count) {
+  return "<ReportDocument>" +
+         Repeated(
+             "<FontInformation><BaseFont>Probe Regular</BaseFont><Encoding>cid</Encoding><Flags>0</Flags>"
+             "<FontType>2</FontType></FontInformation>",
+             count) +
+         "</ReportDocument>";
+}
+
+TEST(FontRecords, ProgramsOfTheSystemAreLimited) {
+  static_assert(kMostLargeFonts == 128 && kMostLargeFonts < zeb::kMostFontsOfFile);
+  const zebtest::FontMachine machine;
+  InstallLargeFont(machine);
+  CReportDocument document;
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(document, DocumentOfLargeFonts(kMostLargeFonts + 1)); }),
+            L"NoMoreMemoryLeft");
+  EXPECT_EQ(document.GetFontHandler()->GetFonts()->GetFontCount(), StandardFontCount() + kMostLargeFonts);
+}
+
+TEST(FontRecords, ProgramsThatThePoolKeepsAreNotLimited) {
+  const zebtest::FontMachine machine;
+  InstallLargeFont(machine);
+  const zebtest::ScopedFontPool pool;
+  const std::string record = DocumentOfLargeFonts(kMostLargeFonts + 1);
+  for (const char* const from : {"the system at first, then the pool", "the pool"}) {
+    CReportDocument document;
+    EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(document, record); }), L"") << from;
+  }
 }
 
 }  // namespace
