@@ -129,6 +129,11 @@ int Add(const std::wstring& folder, const std::wstring& fontFile, std::wstring& 
   }
   CFontMetrics& metrics = *font.GetFontMetrics();
   const std::wstring name = metrics.GetBaseFont();
+  if (name.empty()) {
+    throw Failure(fontFile +
+                  L": the font has no full English name, by which a pool knows it; "
+                  L"give it one with a font editor or take another font.");
+  }
   const std::wstring path = PathOf(zeb::FontPoolFileName(name));
   CFontPool& pool = CFontPool::GetInstance();
   if (pool.GetFontData(name.c_str()) != nullptr) {
