@@ -6,7 +6,7 @@
 
 #include <vector>
 
-// Fonts of about 1 MB that would take hours if a subset looked at everything as often as they ask for it.
+// Fonts of some MB that would take hours or gigabytes if a subset looked at everything as often as they ask for it.
 
 namespace {
 
@@ -64,4 +64,14 @@ TEST(SubsetHostile, AChainOfCompositesEachMadeOfTheNext) {
     font.glyphs[glyph].outline = TrueTypeBuilder::Composite({glyph + 1});
   }
   EXPECT_EQ(SubsetGlyphs(font, 3), kGlyphs);
+}
+
+TEST(SubsetHostile, AGlyphWhoseComponentsFillATableOfMegabytes) {
+  // The same word is the flags of a component with one more behind it and the number of a glyph. So the first glyph has
+  // a million components up to the table's end, all of them the glyph 0x8020.
+  TrueTypeBuilder font = ManyGlyphs();
+  FontBytes words;
+  for (int i = 0; i < 50; ++i) words.U16(0x8020);
+  for (TrueTypeBuilder::Glyph& glyph : font.glyphs) glyph.outline = words.Bytes();
+  EXPECT_EQ(SubsetGlyphs(font, 3), 5U);
 }

@@ -229,6 +229,21 @@ TEST(Subset, KeepsTheOtherFieldsOfTheFont) {
   }
 }
 
+TEST(Subset, FixedTheCountOfMetricsStandsAtTheEndOfALongerHorizontalHeader) {
+  TrueTypeBuilder builder;
+  Bytes longer = builder.Tables().at("hhea");
+  ASSERT_EQ(longer.size(), 36U);
+  longer.insert(longer.end(), {0xAA, 0xBB, 0xCC, 0xDD});
+  builder.Replace("hhea", longer);
+  TrueTypeFont font = ReadForSubset(builder);
+  const Subset subset(font);
+  const TablePlace hhea = subset.Table("hhea");
+  EXPECT_EQ(hhea.length, 40U);
+  EXPECT_EQ(U16(subset.All(), hhea.offset + 34), 5U) << "that of the font";
+  EXPECT_EQ(U16(subset.All(), hhea.offset + 36), 0xAABBU);
+  EXPECT_EQ(U16(subset.All(), hhea.offset + 38), 3U);
+}
+
 TEST(Subset, UsedGlyphsComeInTheOrderOfTheirUse) {
   TrueTypeFont font = ReadForSubset(FontOf({Box(601), Box(602), Box(603)}));
   EXPECT_EQ(font.Metrics().MapChar(CodeOf(5)), 3);
@@ -388,6 +403,21 @@ TEST(Subset, FixedAGlyphUsedAfterASubsetTakesTheNumberOfAComponent) {
   EXPECT_EQ(subset.Glyph(4), TrueTypeBuilder::Box(0, 0, 603, 100));
 }
 
+TEST(Subset, ComponentsOfALaterSubsetAreNumberedBehindAllKnownGlyphs) {
+  TrueTypeFont font = ReadForSubset(FontOf({Box(601), Composite({3}), Box(605), Composite({5})}));
+  font.Metrics().MapChar(CodeOf(4));
+  font.Metrics().CreateSubsetFont();
+  EXPECT_EQ(font.Metrics().MapChar(CodeOf(6)), 4) << "the number of glyph 3";
+  const Subset subset(font);
+  EXPECT_EQ(subset.GlyphCount(), 7U) << "two glyphs have the number 4, none has 5";
+  unsigned short number = 0;
+  ASSERT_TRUE(font.Metrics().FindUsedGlyphIndex(5, number));
+  EXPECT_EQ(number, 6);
+  std::vector<std::size_t> places;
+  for (unsigned i = 0; i <= 7; ++i) places.push_back(subset.Loca(i));
+  EXPECT_EQ(places, (std::vector<std::size_t>{0, 34, 34, 34, 52, 70, 104, 138}));
+}
+
 TEST(Subset, ComponentsAreNumberedInTheOrderOfTheGlyphsThatNeedThem) {
   // 6 is used first, but 5 comes first in the font.
   TrueTypeFont font = ReadForSubset(
@@ -467,6 +497,17 @@ TEST(Subset, IsMadeOfTrueTypeFontsOnly) {
   CFontMetrics plain;
   plain.CreateSubsetFont();
   EXPECT_EQ(plain.GetFontData()->GetLength(), 0);
+}
+
+TEST(Subset, StaysWhenTheFontIsOfAnotherTypeByNow) {
+  TrueTypeFont font = ReadForSubset({});
+  font.Metrics().CreateSubsetFont();
+  const CFontData* subset = font.Metrics().GetFontData();
+  const Bytes before = Contents(*subset);
+  font.Metrics().SetFontType(CFontMetrics::FontTypeType1);
+  font.Metrics().CreateSubsetFont();
+  EXPECT_EQ(font.Metrics().GetFontData(), subset);
+  EXPECT_EQ(Contents(*subset), before);
 }
 
 TEST(Subset, TakesATableThatReachesBehindTheDataAsFarAsItGoes) {
