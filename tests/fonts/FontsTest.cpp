@@ -160,6 +160,14 @@ TEST_F(Fonts, ForwardToTheEncodingsOfTheHandler) {
   EXPECT_STREQ(fonts.GetCharCollNameAt(CFontMetrics::CharCollKorea1)->GetOrdering(), L"Korea1");
 }
 
+TEST_F(Fonts, TheBuiltInFontsAskTheHandlerOfTheirList) {
+  const CGlobalFontHandler handler;
+  CEncodingInformation* const encoding = handler.GetEncodings()->FindEncoding(L"winansi1252");
+  ASSERT_NE(encoding, nullptr);
+  EXPECT_EQ(handler.GetFonts()->GetFontAt(4)->GetEncodingInformation(L"winansi1252"), encoding);
+  EXPECT_EQ(handler.GetFonts()->GetFontAt(14)->GetEncodingInformation(L"winansi1252"), encoding);
+}
+
 TEST_F(Fonts, WithoutAHandlerThereAreNoEncodings) {
   EXPECT_EQ(m_fonts.GetEncodingInformation(L"winansi1252"), nullptr);
   EXPECT_EQ(m_fonts.GetCharCollNameAt(CFontMetrics::CharCollKorea1), nullptr);
@@ -279,6 +287,21 @@ TEST_F(Fonts, AnUnknownFontIsSoughtInThePool) {
   EXPECT_STREQ(Localized(L"muster"), L"Sample") << "what is answered stays so";
 }
 
+TEST_F(Fonts, TheListComesBeforeThePool) {
+  Pool(L"Other", {L"Sample", L"Helvetica"});
+  Add(m_fonts, {L"Sample", L"", kNormal, false, {L"Muster"}});
+  EXPECT_STREQ(Localized(L"Sample"), L"Muster");
+  EXPECT_STREQ(Localized(L"Helvetica"), L"Helvetica");
+  EXPECT_STREQ(Unique(L"Helvetica"), L"Helvetica");
+}
+
+TEST_F(Fonts, OfAFontWithoutLocalizedNamesThePoolMayKnowAnother) {
+  Pool(L"Other", {L"Sample"});
+  Add(m_fonts, {L"Sample"});
+  EXPECT_STREQ(Unique(L"Sample"), L"Sample");
+  EXPECT_STREQ(Localized(L"Sample"), L"Other");
+}
+
 TEST_F(Fonts, FixedTheFirstQuestionForAnUnknownFontGivesNull) {
   EXPECT_EQ(Localized(L"Unknown"), nullptr);
   EXPECT_STREQ(Localized(L"Unknown"), L"Unknown");
@@ -326,6 +349,24 @@ TEST_F(Fonts, AnswersOutliveTheFont) {
 TEST_F(Fonts, ANullNameHasNoOther) {
   EXPECT_EQ(Localized(nullptr), nullptr);
   EXPECT_EQ(Unique(nullptr), nullptr);
+}
+
+// Fonts that are never embedded
+
+TEST_F(Fonts, ABuiltInFontKeepsItsNameThoughItHasLocalizedOnes) {
+  m_fonts.GetFontAt(4)->GetFontMetrics()->AddLocalizedFontName(L"Anders");
+  EXPECT_STREQ(Localized(L"Helvetica"), L"Helvetica");
+  EXPECT_STREQ(Unique(L"Anders"), L"Anders");
+}
+
+TEST_F(Fonts, AnAddedFontThatIsMarkedAsBuiltInKeepsItsNameThoughItHasLocalizedOnes) {
+  for (void (CFontMetrics::*const mark)(bool) : {&CFontMetrics::SetCJKFont, &CFontMetrics::SetBase14Font}) {
+    CFonts fonts(nullptr);
+    CFontInformation* const font = Add(fonts, {L"Sample", L"", kNormal, false, {L"Muster"}});
+    (font->GetFontMetrics()->*mark)(true);
+    EXPECT_STREQ(fonts.GetLocalizedFontName(L"Sample", kNormal, false), L"Sample");
+    EXPECT_STREQ(fonts.GetUniqueFontName(L"Muster", kNormal, false), L"Muster");
+  }
 }
 
 // GetUniqueFontName
@@ -382,6 +423,13 @@ TEST_F(Fonts, AFontWithOtherLocalizedNamesIsSoughtInThePool) {
   Add(m_fonts, {L"Sample", L"", kNormal, false, {L"Muster"}});
   Pool(L"Other", {L"Sample"});
   EXPECT_STREQ(Unique(L"Sample"), L"Other");
+}
+
+TEST_F(Fonts, FixedUniqueNamesIgnoreTheStyleOnceAnswered) {
+  Add(m_fonts, {L"Sample Regular", L"Sample", kNormal, false, {L"sample"}});
+  Add(m_fonts, {L"Sample Bold", L"Sample", kBoldWeight, false, {L"SAMPLE"}});
+  EXPECT_STREQ(m_fonts.GetUniqueFontName(L"Sample", kBoldWeight, false), L"Sample Bold");
+  EXPECT_STREQ(m_fonts.GetUniqueFontName(L"Sample", kNormal, false), L"Sample Bold");
 }
 
 TEST_F(Fonts, AnUnknownNameIsSoughtInThePool) {
