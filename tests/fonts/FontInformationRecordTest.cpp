@@ -12,6 +12,7 @@
 #include "support/ScopedFontPool.h"
 #include "support/TrueTypeBuilder.h"
 #include "support/WidePath.h"
+#include "support/XMLFailure.h"
 
 #include <gtest/gtest.h>
 
@@ -516,6 +517,106 @@ TEST(FontInformationRecord, ATrueTypeFontThatIsReadAgainLeavesThePoolsProgram) {
   LoadRecord(font.Font(), Record(Scalars("2", "T") + kTail));
   EXPECT_EQ(font->GetFontData(), pool->GetFontData(L"T"));
   EXPECT_EQ(BytesOf(pool->GetFontData(L"S")), BytesOf(pool->GetFontData(L"T")));
+}
+
+// What a program says of its font counts more than what the record says, imitations of a style included.
+
+/// A record of "Probe Regular" as a TrueType font with codes of one byte.
+std::string ProbeRecord(std::string_view encoding, std::string_view behindType, std::string_view tail) {
+  return Record("<BaseFont>Probe Regular</BaseFont>" + Element("Encoding", encoding) +
+                "<Flags>0</Flags><FontType>2</FontType>" + std::string(behindType) +
+                "<UnicodeFont>0</UnicodeFont>" + std::string(tail));
+}
+
+void StoreProbe() {
+  const std::vector<unsigned char> bytes = zebtest::TrueTypeBuilder().Build();
+  Store("Probe Regular", {bytes.begin(), bytes.end()});
+}
+
+TEST(FontInformationRecord, AStyleThatTheProgramLacksIsImitated) {
+  const ScopedFontPool pool;
+  StoreProbe();
+  ReadFont font;
+  LoadRecord(font.Font(), ProbeRecord("winansi1252", "", "<Bold>700</Bold><Italic>1</Italic>"));
+  EXPECT_EQ(font->GetBold(), 700);
+  EXPECT_TRUE(font->GetItalic());
+  EXPECT_EQ(font->GetStemVW(), 165);
+  EXPECT_EQ(font->GetItalicAngle(), -12.0F);
+  EXPECT_FALSE(font->GetBoldFont());
+  EXPECT_FALSE(font->GetItalicFont());
+}
+
+TEST(FontInformationRecord, TheProgramsEncodingHeightsAndWidthsReplaceThoseOfTheRecord) {
+  const ScopedFontPool pool;
+  StoreProbe();
+  ReadFont font;
+  LoadRecord(font.Font(), ProbeRecord("winansi1250",
+                                      "<EncodingScheme>FontSpecific</EncodingScheme><Ascender>5</Ascender>"
+                                      "<Widths>7</Widths>",
+                                      ""));
+  EXPECT_STREQ(font->GetEncoding(), L"winansi1252");
+  EXPECT_STREQ(font->GetEncodingScheme(), L"AdobeStandardEncoding");
+  EXPECT_EQ(font->GetUnicodeAt(0xA5), 0xA5) << "the yen; in the other code page a Polish letter";
+  EXPECT_EQ(font->GetAscender(), 732) << "1500 of 2048";
+  EXPECT_EQ(font->GetWidthAt(0), 488) << "glyph 0, 1000 of 2048, truncated";
+  EXPECT_EQ(font->GetFirstChar(), 0);
+  EXPECT_EQ(font->GetLastChar(), 255);
+}
+
+TEST(FontInformationRecord, FixedATypeThatIsNotTheFourthChildFindsNoProgramInThePool) {
+  const std::string record = Record("<BaseFont>Probe Regular</BaseFont>");
+  {
+    const ScopedFontPool pool;
+    StoreProbe();
+    ReadFont font;
+    EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(font.Font(), record); }), L"IncorrectTrueTypeFile");
+    EXPECT_EQ(pool->GetFontData(L"Probe Regular")->GetLength(), 728) << "the pool keeps it";
+  }
+  const zebtest::FontMachine machine;
+  machine.Install("probe.ttf", zebtest::TrueTypeBuilder().Build());
+  ReadFont font;
+  EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(font.Font(), record); }), L"");
+  EXPECT_EQ(font->GetWidthAt('A'), 585) << "1200 of 2048";
+}
+
+// From the system
+
+TEST(FontInformationRecord, APoolThatCannotBeWrittenEndsTheLoadingOfAnInstalledFont) {
+  const zebtest::FontMachine machine;
+  machine.Install("probe.ttf", zebtest::TrueTypeBuilder().Build());
+  const ScopedFontPool pool;
+  CFontPool::GetInstance().SetFontPoolPath(pool.Folder().WideFile("missing").c_str());
+  ReadFont font;
+  EXPECT_EQ(
+      zebtest::FacilityFailure([&] { LoadRecord(font.Font(), ProbeRecord("winansi1252", "", "")); }).Number,
+      zebxmln::CXMLException::CannotWrite);
+}
+
+TEST(FontInformationRecord, OnlyATrueTypeFontIsSoughtInTheSystem) {
+  const zebtest::FontMachine machine;
+  machine.Install("probe.ttf", zebtest::TrueTypeBuilder().Build());
+  for (const char* const type : {"0", "1", "3", "-1"}) {
+    ReadFont font;
+    EXPECT_EQ(
+        zebtest::RaisedKey([&] { LoadRecord(font.Font(), Record(Scalars(type, "Probe Regular") + kTail)); }),
+        L"")
+        << type;
+    EXPECT_EQ(font->GetFontData()->GetLength(), 0) << type;
+  }
+}
+
+TEST(FontInformationRecord, FixedAFontFromTheSystemIsReadTwiceSoItsNameIsThereTwice) {
+  const zebtest::FontMachine machine;
+  machine.Install("probe.ttf", zebtest::TrueTypeBuilder().Build());
+  const std::string record = ProbeRecord("winansi1252", "", "");
+  ReadFont font;
+  LoadRecord(font.Font(), record);
+  EXPECT_EQ(font->GetLocalizedFontNameCount(), 2);
+  const ScopedFontPool pool;
+  StoreProbe();
+  ReadFont fromPool;
+  LoadRecord(fromPool.Font(), record);
+  EXPECT_EQ(fromPool->GetLocalizedFontNameCount(), 1);
 }
 
 /// A collection of "Probe Regular" and "Other Full", whose A is as wide as the em.

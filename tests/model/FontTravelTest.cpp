@@ -10,6 +10,7 @@
 #include "support/RaisedKey.h"
 #include "support/ScopedEnvironment.h"
 #include "support/ScopedFontPool.h"
+#include "support/XMLFailure.h"
 
 #include <gtest/gtest.h>
 
@@ -176,13 +177,17 @@ TEST(FontTravel, APoolThatCannotBeWrittenFailsTheSaving) {
   AddInstalled(*report.Document().GetFontHandler(), kFont);
   const ScopedFontPool pool;
   pool->SetFontPoolPath(pool.Folder().WideFile("missing").c_str());
-  int code = 0;
-  try {
-    report.SavedReport();
-  } catch (const CKXXMLException& exception) {
-    code = exception.GetErrorNr();
-  }
-  EXPECT_EQ(code, zebxmln::CXMLException::CannotWrite);
+  EXPECT_EQ(zebtest::RaisedFailure([&] { report.SavedReport(); }).Number,
+            zebxmln::CXMLException::CannotWrite);
+}
+
+TEST(FontTravel, APoolThatCannotBeWrittenFailsTheLoadingOfAnInstalledFont) {
+  const std::string file = FileWithoutPool();
+  const ScopedFontPool pool;
+  pool->SetFontPoolPath(pool.Folder().WideFile("missing").c_str());
+  LoadedReport loaded;
+  EXPECT_EQ(zebtest::RaisedFailure([&] { loaded.LoadReportText(file); }).Number,
+            zebxmln::CXMLException::CannotWrite);
 }
 
 TEST(FontTravel, TheDistancesOfATextAreTheSameThere) {
