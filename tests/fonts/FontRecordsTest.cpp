@@ -103,6 +103,15 @@ TEST(FontRecords, ALayoutOfTheOldFormReadsItsEncodings) {
   EXPECT_NE(layout.GetFontHandler()->GetEncodings()->FindEncoding(L"one"), nullptr);
 }
 
+TEST(FontRecords, FixedALayoutOfTheOldFormWithoutFontsHasNoEncodings) {
+  CReportLayout layout;
+  LoadRecord(layout,
+             "<ReportLayout><VersionNr>2</VersionNr><ReportLayoutID>0</ReportLayoutID><LayoutRect/>"
+             "<LayoutRect/>" +
+                 Record("one") + "</ReportLayout>");
+  EXPECT_EQ(layout.GetFontHandler()->GetEncodings()->FindEncoding(L"one"), nullptr);
+}
+
 TEST(FontRecords, FixedARecordOfAStandardNameIsAppendedButNotFound) {
   CReportDocument document;
   LoadRecord(document, "<ReportDocument>" + Record("winansi1252") + "</ReportDocument>");
