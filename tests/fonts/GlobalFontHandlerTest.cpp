@@ -118,6 +118,26 @@ TEST(GlobalFontHandler, MergingLeavesTheBuiltInFonts) {
   EXPECT_EQ(other.GetFonts()->GetFontCount(), 25);
 }
 
+TEST(GlobalFontHandler, MergingLeavesFontsThatAreMarkedAsBuiltIn) {
+  CGlobalFontHandler handler;
+  CGlobalFontHandler other;
+  AddFont(other, L"Standard")->GetFontMetrics()->SetBase14Font(true);
+  AddFont(other, L"Predefined")->GetFontMetrics()->SetCJKFont(true);
+  handler.AddAnotherFontHandler(&other);
+  EXPECT_EQ(handler.GetFonts()->GetFontCount(), 25);
+  EXPECT_EQ(FontsOf(other), (Names{L"Standard", L"Predefined"}));
+}
+
+TEST(GlobalFontHandler, MergingFindsAFontByItsLocalizedName) {
+  CGlobalFontHandler handler;
+  CGlobalFontHandler other;
+  AddFont(handler, L"A")->GetFontMetrics()->AddLocalizedFontName(L"Sample");
+  AddFont(other, L"Sample");
+  handler.AddAnotherFontHandler(&other);
+  EXPECT_EQ(FontsOf(handler), Names{L"A"});
+  EXPECT_EQ(FontsOf(other), Names{L"Sample"});
+}
+
 TEST(GlobalFontHandler, MergingLeavesAFontThatBothHave) {
   CGlobalFontHandler handler;
   CGlobalFontHandler other;
