@@ -317,6 +317,16 @@ TEST(FontPool, FixedTheVersionOfAFileBecomesThePools) {
   EXPECT_NE(ReadFile(folder.File("New.fd")).find("<VersionNr>7</VersionNr>"), std::string::npos);
 }
 
+TEST(FontPool, FixedTheVersionOfAFileCountsThoughItsFontIsKnown) {
+  const TempDir folder;
+  WriteFile(folder.File("Other.fd"), FileText("<VersionNr>7</VersionNr><FontName>Sample</FontName>"));
+  Pool pool(folder);
+  pool.Store(L"Sample", "abc");
+  EXPECT_EQ(pool.GetFontData(L"Other"), nullptr);
+  pool.Store(L"New", "abc");
+  EXPECT_NE(ReadFile(folder.File("New.fd")).find("<VersionNr>7</VersionNr>"), std::string::npos);
+}
+
 TEST(FontPool, AFileWithoutVersionLeavesThePools) {
   const TempDir folder;
   WriteFile(folder.File("Old.fd"), FileText("<FontName>Old</FontName><VersionNr>7</VersionNr>"));
