@@ -208,7 +208,7 @@ void CFontMetrics::RemapComposite(CFontData* source, CTrueTypeDirEnt* glyfEntry,
     unsigned short newIndex = 0;
     if (!FindUsedGlyphIndex(component, newIndex)) return;
     source->WriteUShortAtPos(pos, newIndex);
-    m_CompositePatches.emplace(static_cast<unsigned int>(pos), component);
+    m_CompositePatches.emplace_hint(patched, static_cast<unsigned int>(pos), component);
   }
 }
 
