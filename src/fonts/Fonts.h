@@ -55,17 +55,20 @@ class ZEB_EXPORT CFonts {
   CFontInformation* GetFontAt(int index) const;
   int GetFontCount() const;
 
-  /// The first font whose unique name this is, in any style, or whose family name this is in exactly this style;
-  /// failing that, the first that has this localized name; null if there is none. Case counts in localized names only.
+  /// The first font whose unique name this is and whose family name it is not, in any style, or whose family name this
+  /// is in exactly this style; failing that, the first that has this localized name; null if there is none. Case counts
+  /// in localized names only.
   /// @param bold the weight, 400 normal
   CFontInformation* FindFont(const wchar_t* name, int bold, bool italic) const;
   /// The name by which files store a font: from the list, the font pool or the operating system. Points into the list.
+  /// An answer is kept under the name: the style of a later question does not count.
   /// @return null if the font is not known, and at the first question for a name that is only a part of a localized
   /// one
   const wchar_t* GetUniqueFontName(const wchar_t* name, int bold, bool italic);
-  /// The name by which users know a font: from the list or the font pool. Points into the list.
-  /// @return the name itself for a built-in font; for another name that has no other, null at the first question and
-  /// the name itself from the second one on
+  /// The name by which users know a font: from the list or the font pool. Points into the list. An answer is kept under
+  /// the name: the style of a later question does not count.
+  /// @return the name itself for a built-in font; the unique name for one that only the pool knows as a localized name;
+  /// for another name that has no other, null at the first question and the name itself from the second one on
   const wchar_t* GetLocalizedFontName(const wchar_t* name, int bold, bool italic);
 
   /// The names of a character collection, from the encodings of the handler; null if there are none.

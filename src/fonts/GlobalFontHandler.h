@@ -32,7 +32,7 @@ class ZEB_EXPORT CGlobalFontHandler {
 
   /// Moves over the fonts and encodings of another handler that this one has not; the built-in fonts are left out.
   /// What follows one that was moved is passed over: a second call moves the rest. A moved font still asks the other
-  /// handler for its encoding.
+  /// handler for its encoding and the names of its character collection, so the other one must outlive such questions.
   void AddAnotherFontHandler(CGlobalFontHandler* other);
 
   /// Sets the line spacing of a text, and the distances of its base lines from the border, to what suits its font. The
