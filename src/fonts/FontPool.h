@@ -36,15 +36,16 @@ class ZEB_EXPORT CFontPool {
   /// The program of a font, from memory or from its file; null if there is none. The pool keeps it.
   /// @param fontName the unique name of the font, case-sensitive
   CFontData* GetFontData(const wchar_t* fontName);
-  /// Takes in a font and writes its file. A font that the pool has already stays as it is, in memory and on disk.
+  /// Takes in a font and writes its file. A font whose program the pool has stays as it is, in memory and on disk; one
+  /// that it has without a program is written, but stays without in memory.
   /// @param bold the weight, 400 normal
-  /// @param data the font program, which is copied
+  /// @param data the font program, which is copied; may be null if `length` is 0
   /// @param length of `data` in bytes
   /// @throws zebxmln::CXMLException if the file cannot be written; the font is in memory then
   void SetFontData(const wchar_t* fontName, const wchar_t* familyName, int bold, bool italic,
                    unsigned char* data, int length, const std::vector<std::wstring>& localizedNames);
-  /// The unique name of the first font in memory that has this localized name, case ignored and without one
-  /// leading `@`; null if there is none. Points into the pool.
+  /// The unique name of the first font in memory that has this localized name, without one leading `@` and with case
+  /// ignored for ASCII letters only; null if there is none. Points into the pool.
   const wchar_t* FindUniqueName(const wchar_t* name) const;
   /// Frees all entries; the files stay.
   void DeleteFontPool();
