@@ -36,10 +36,12 @@ class ZEB_EXPORT CFontInformation {
   /// Reads a record `FontInformation`. A font program that the record does not hold comes from the font pool; that
   /// of a TrueType font, failing that, from the operating system.
   /// Errors: "FontPoolIncomplete" with the font's name if a TrueType font has no program anywhere; those of ReadTT.
+  /// @throws zebxmln::CXMLException if a program comes from the operating system and the pool cannot write its file
   /// @return true
   virtual bool Load(zebxmln::CXMLNode* node, CIDManager& ids);
   /// Adds a record `FontInformation` to the node and hands the font program to the font pool. A base-14 or CJK font
   /// writes nothing.
+  /// @throws zebxmln::CXMLException if the pool cannot write its file; the record stands under the node then
   /// @return true
   virtual bool Save(zebxmln::CXMLNode* node, CIDManager& ids);
   /// As the copy constructor. What this object held is not freed.

@@ -25,9 +25,13 @@ class ZEB_EXPORT CReportDocument {
 
   /// Reads the `ReportDocument` element. The zones are created by their identifiers and are still empty:
   /// their data stand in records of their own.
+  /// Errors of fonts: "FontPoolIncomplete" with the name of a TrueType font whose program is nowhere;
+  /// "NoMoreMemoryLeft" for too many programs from the operating system; those of CFontInformation::ReadTT.
+  /// @throws zebxmln::CXMLException if a program comes from the operating system and the font pool cannot write its file
   /// @return true
   virtual bool Load(zebxmln::CXMLNode* node, CIDManager& ids);
-  /// Adds the `ReportDocument` element to `node`.
+  /// Adds the `ReportDocument` element to `node`, and the programs of its fonts to the font pool.
+  /// @throws zebxmln::CXMLException if the font pool cannot write its file
   /// @return true
   virtual bool Save(zebxmln::CXMLNode* node, CIDManager& ids);
 

@@ -22,9 +22,13 @@ class ZEB_EXPORT CReportLayout {
   virtual ~CReportLayout();
 
   /// Reads the root element of a layout file, in its current and in its old form (version below 3).
+  /// Errors of fonts: "FontPoolIncomplete" with the name of a TrueType font whose program is nowhere;
+  /// "NoMoreMemoryLeft" for too many programs from the operating system; those of CFontInformation::ReadTT.
+  /// @throws zebxmln::CXMLException if a program comes from the operating system and the font pool cannot write its file
   /// @return true
   virtual bool Load(zebxmln::CXMLNode* node, CIDManager& ids);
-  /// Fills the root element of a layout file.
+  /// Fills the root element of a layout file, and adds the programs of its fonts to the font pool.
+  /// @throws zebxmln::CXMLException if the font pool cannot write its file
   /// @return true
   virtual bool Save(zebxmln::CXMLNode* node, CIDManager& ids);
 

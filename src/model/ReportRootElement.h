@@ -31,7 +31,8 @@ class ZEB_EXPORT CReportRootElement {
   /// Afterwards the model is of the current version, whatever was read.
   /// @param reportFile null to load no report file
   /// @param layoutFile null to load no layout file
-  /// @throws CKXXMLException with number and message of the XML facility: a file is missing or not well-formed
+  /// @throws CKXXMLException with number and message of the XML facility: a file is missing or not well-formed, or the font
+  ///   pool cannot write the file of a font from the operating system
   /// @throws CKXException of the key "FontPoolIncomplete": the program of a font is nowhere; "IncorrectTrueTypeFile" or
   ///   any other key of reading a font or a picture. What was built so far stays, after a failure of either kind
   void LoadReport(const wchar_t* reportFile, const wchar_t* layoutFile);
