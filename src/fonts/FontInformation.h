@@ -12,7 +12,6 @@ class CPostscriptFontMetrics;
 class CTrueTypeFontMetrics;
 
 namespace zeb {
-class RecordReader;
 int BytesFromSystem(const CFontInformation& font);
 }  // namespace zeb
 
@@ -119,8 +118,10 @@ class ZEB_EXPORT CFontInformation {
   /// The program of the current metrics, to be changed. A new one takes the place of one that they do not own.
   CFontData& OwnProgram();
   /// Reads the program that old files hold.
+  /// @param length the element of its length, null if the record has none
+  /// @param content the element of its bytes, null if the record has none
   /// @return whether the record has one
-  bool ReadProgram(zeb::RecordReader& record);
+  bool ReadProgram(const zebxmln::CXMLNode* length, zebxmln::CXMLNode* content);
   /// Puts the pool's program of the font in the place of its own.
   /// @return whether the pool has one
   bool TakeFromPool();

@@ -221,7 +221,8 @@ bool CFontInformation::Load(zebxmln::CXMLNode* node, CIDManager& /*ids*/) {
   ReadCharacters(record, metrics);
   ReadAll(record, kCodeRange, metrics);
   ReadWidths(record, metrics);
-  const bool hasProgram = ReadProgram(record);
+  const zebxmln::CXMLNode* const length = record.Take(kFontDataLength);
+  const bool hasProgram = ReadProgram(length, record.Take(kFontData));
   ReadAll(record, kStyle, metrics);
   if (!hasProgram && !TakeFromPool() && metrics.GetFontType() == CFontMetrics::FontTypeTrueType) {
     LoadFromSystem();
@@ -252,15 +253,14 @@ CFontData& CFontInformation::OwnProgram() {
 }
 
 // FontDataLength has no use but to empty what there was.
-bool CFontInformation::ReadProgram(RecordReader& record) {
-  if (record.Take(kFontDataLength) != nullptr) ReplaceProgram(new CFontData(false), true);
-  zebxmln::CXMLNode* const element = record.Take(kFontData);
-  if (element == nullptr) return false;
-  if (auto* const content = dynamic_cast<zebxmln::CXMLBinNode*>(element->GetFirstChildNode())) {
+bool CFontInformation::ReadProgram(const zebxmln::CXMLNode* length, zebxmln::CXMLNode* content) {
+  if (length != nullptr) ReplaceProgram(new CFontData(false), true);
+  if (content == nullptr) return false;
+  if (auto* const program = dynamic_cast<zebxmln::CXMLBinNode*>(content->GetFirstChildNode())) {
     void* bytes = nullptr;
-    int length = 0;
-    content->GetBinaryData(&bytes, &length);
-    OwnProgram().AddFontMemData(bytes, length);
+    int count = 0;
+    program->GetBinaryData(&bytes, &count);
+    OwnProgram().AddFontMemData(bytes, count);
   }
   // Fixed behaviour: the element alone counts, whatever it holds.
   return true;
