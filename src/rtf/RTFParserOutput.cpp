@@ -23,6 +23,7 @@ constexpr std::size_t kRowsCopiedAnew = 64;
 /// Makes `shown` equal to `rows`. Where those are many, rows that are in their place from behind are taken to be so up
 /// to the front: between two calls both only grow at their ends, or are cut there.
 void ShowRows(std::vector<CRTFTableRow*>& shown, const std::vector<CRTFTableRow*>& rows) {
+  if (rows.empty() && shown.empty()) return;
   if (rows.size() <= kRowsCopiedAnew) {
     shown = rows;
     return;
