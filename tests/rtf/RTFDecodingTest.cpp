@@ -159,8 +159,15 @@ TEST(RTFDecoding, HexBytesInARowReadAsSingleOnes) {
 }
 
 TEST(RTFDecoding, LineEndsDoNotPartPairs) {
+  EXPECT_EQ(TextIn(134, "\\'b0\r\n\\'a1"), L"\x554A");
   EXPECT_EQ(TextIn(134, "\\'b0\r\n\\'a1\\'c4\n\\'e3"), L"\x554A\x4F60");
   EXPECT_EQ(TextIn(134, "\\'b0\\'a\n1\\'c4\\'e\r3"), L"\x554A\x4F60");
+}
+
+TEST(RTFDecoding, ABlankPartsPairs) {
+  EXPECT_EQ(TextIn(134, R"(\'b0 \'a1)"),
+            L"\xB0"
+            L" \xA1");
 }
 
 TEST(RTFDecoding, FixedAWaitingDigitGoesBeforeThoseOfTheNextHexByte) {

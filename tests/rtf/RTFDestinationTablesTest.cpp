@@ -218,8 +218,12 @@ TEST(RTFDestinationTables, ARawSemicolonEndsAColor) {
 }
 
 TEST(RTFDestinationTables, ColorsClearTheNameBuffer) {
-  const RTFReading reading(R"({\rtf1{\*\listtable{\list{\listlevel{\leveltext\u65?}}}}{\fonttbl{\f0 X;}}})");
-  EXPECT_EQ(FontName(reading, 0), L"X");
+  const RTFReading reading(R"({\rtf1{\*\listtable{\list{\listlevel}\listid7}})"
+                           R"({\*\listoverridetable{\listoverride\listid7\ls1}})"
+                           R"({\ls1\ilvl0{\listtext 1{\colortbl;}2}x}})");
+  EXPECT_EQ(reading.Result(), 0);
+  ASSERT_EQ(reading.Outline(), L"[x]");
+  EXPECT_STREQ(reading.Runs()[0].m_Context.Level->GetListText(), L"2\t");
 }
 
 TEST(RTFDestinationTables, ADocumentCutOffFreesWhatIsPending) {

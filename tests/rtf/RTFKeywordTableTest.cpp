@@ -271,6 +271,10 @@ TEST(RTFKeywordTable, CharacterKeywordsAreCharacters) {
   EXPECT_EQ(reading.Text(), L"a\tb\"c\"d{}\\");
 }
 
+TEST(RTFKeywordTable, CharacterKeywordsOfSkippedGroupsAreDropped) {
+  EXPECT_EQ(zebtest::RTFReading("{a{\\*\\unk\\tab\\{\\}\\\\\\ldblquote}b}").Outline(), L"[a][b]");
+}
+
 TEST(RTFKeywordTable, FixedBackslashBeforeALineEndIsDropped) {
   EXPECT_EQ(zebtest::RTFReading("{a\\\nb\\\r\nc}").Text(), L"abc");
 }

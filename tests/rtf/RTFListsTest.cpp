@@ -181,6 +181,20 @@ TEST(RTFLists, ListKeywordsMeanNothingElsewhere) {
   }
 }
 
+TEST(RTFLists, KeywordsMeanNothingInTheOtherTables) {
+  const RTFReading reading(
+      R"({\rtf1{\*\listtable{\list{\listlevel\levelnfc1\listid9\listhybrid\ls4\ilvl3\listoverridecount5\list})"
+      R"(\levelnfc5\ls4\ilvl2\listoverridecount6\listoverride\listid7}}{\*\listoverridetable{\listoverride)"
+      R"(\listid7\ls1\listhybrid\listsimple\levelnfc3\ilvl1\list}}\ls1\ilvl0 x})");
+  EXPECT_EQ(reading.Result(), 0);
+  ASSERT_NE(List(reading), nullptr);
+  EXPECT_EQ(List(reading)->GetListId(), 7);
+  EXPECT_EQ(List(reading)->GetLevelCount(), 1);
+  EXPECT_EQ(List(reading)->GetLs(), 0);
+  ASSERT_NE(Level(reading), nullptr);
+  EXPECT_EQ(Level(reading)->GetLevelnfc(), 1);
+}
+
 TEST(RTFLists, OverrideKeywordsSetTheOverride) {
   zebtest::ParserProbe probe(
       R"({\*\listoverridetable{\listoverride\listid7\listoverridecount3\ls4}{\listoverride\listid8}})");

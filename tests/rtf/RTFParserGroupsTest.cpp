@@ -1,8 +1,10 @@
 #include "rtf/ParserProbe.h"
+#include "rtf/RTFFont.h"
 #include "rtf/RTFListLevelEntry.h"
 #include "rtf/RTFListTableEntry.h"
 #include "rtf/RTFParser.h"
 #include "rtf/RTFState.h"
+#include "rtf/RTFStyleSheet.h"
 #include "rtf/RecordingHandler.h"
 
 #include <gtest/gtest.h>
@@ -114,6 +116,31 @@ TEST(RTFParserGroups, FixedPardResetsTheSavedIndents) {
   EXPECT_EQ(probe.m_ParProps.RightIndent, 0);
   EXPECT_EQ(probe.m_ParProps.FirstIndent, 0);
   EXPECT_EQ(probe.m_ParProps.Justification, 2);
+}
+
+TEST(RTFParserGroups, PardInAGroupLeavesTheTableOfTheGroupAround) {
+  ParserProbe probe("{\\intbl{\\pard x}\n");
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfUnmatchedBrace);
+  EXPECT_EQ(probe.m_ParProps.InTable, 1);
+}
+
+TEST(RTFParserGroups, GroupsInsideOfAnEntryArePartOfIt) {
+  const RTFReading fonts("{\\fonttbl{\\f0 A{B}C;}}");
+  EXPECT_EQ(fonts.Result(), Parser::rtfOK);
+  ASSERT_NE(fonts.Parser().GetFontAtID(0), nullptr);
+  EXPECT_STREQ(fonts.Parser().GetFontAtID(0)->GetFontFaceName(), L"ABC");
+
+  const RTFReading styles("{\\stylesheet{\\s1 A{\\b B}C;}}");
+  EXPECT_EQ(styles.Result(), Parser::rtfOK);
+  ASSERT_NE(styles.Parser().GetStyleSheetAtID(1), nullptr);
+  EXPECT_STREQ(styles.Parser().GetStyleSheetAtID(1)->GetStyleSheetName(), L"ABC");
+  EXPECT_EQ(styles.Parser().GetStyleSheetAtID(1)->GetCharProps().Bold, 0);
+
+  const RTFReading bookmark("{{\\bkmkstart a{b}c}}");
+  EXPECT_EQ(bookmark.Result(), Parser::rtfOK);
+  ASSERT_EQ(bookmark.Bookmarks().size(), 1U);
+  EXPECT_EQ(bookmark.Bookmarks()[0].first, L"abc");
+  EXPECT_TRUE(bookmark.Bookmarks()[0].second);
 }
 
 TEST(RTFParserGroups, GroupsOfFontTableAndStyleSheetAreEntries) {

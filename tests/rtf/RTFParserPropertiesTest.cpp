@@ -125,6 +125,13 @@ TEST(RTFParserProperties, NoPropertyEndsARunInATable) {
   EXPECT_EQ(reading.Outline(), L"[abcdef]P[]T");
 }
 
+TEST(RTFParserProperties, NosupersubClearsBothInATable) {
+  ParserProbe probe("\\intbl\\super\\sub\\nosupersub\n");
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(probe.m_CharProps.Superscript, 0);
+  EXPECT_EQ(probe.m_CharProps.Subscript, 0);
+}
+
 TEST(RTFParserProperties, NosupersubEndsARunIfOneIsOn) {
   EXPECT_EQ(RTFReading("{\\super a\\nosupersub b}").Outline(), L"[a][b]");
   EXPECT_EQ(RTFReading("{\\sub a\\nosupersub b}").Outline(), L"[a][b]");
@@ -208,6 +215,14 @@ TEST(RTFParserProperties, StyleReplacesFourObjectsAndKeepsTheTable) {
   EXPECT_EQ(probe.m_SecProps.Columns, 2);
   EXPECT_EQ(probe.m_FontProps.FontId, 4);
   EXPECT_EQ(probe.m_DocProps.PaperWidth, 9);
+}
+
+TEST(RTFParserProperties, StyleOfATableMakesNoTable) {
+  ParserProbe probe("{\\stylesheet{\\s3\\intbl X;}}\\s3\n");
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
+  ASSERT_NE(probe.GetStyleSheetAtID(3), nullptr);
+  EXPECT_EQ(probe.GetStyleSheetAtID(3)->GetParProps().InTable, 1);
+  EXPECT_EQ(probe.m_ParProps.InTable, 0);
 }
 
 TEST(RTFParserProperties, UnknownStyleChangesNothing) {

@@ -69,6 +69,13 @@ TEST(RTFParser, InterfaceHasItsSignatures) {
   static_assert(std::is_same_v<decltype(&Parser::GetColorAtID), CRTFColor* (Parser::*)(int) const>);
   static_assert(std::is_same_v<decltype(&Parser::GetStyleSheetAtID), CRTFStyleSheet* (Parser::*)(int) const>);
   static_assert(std::is_same_v<decltype(&Parser::GetTextContent), std::wstring (Parser::*)() const>);
+  static_assert(std::is_same_v<decltype(&ParserProbe::TranslateKeyword), int (Parser::*)(char*, int, char)>);
+  static_assert(std::is_same_v<decltype(&ParserProbe::ApplyPropChange), int (Parser::*)(Parser::IPROP, int)>);
+  static_assert(
+      std::is_same_v<decltype(&ParserProbe::ParseSpecialProperty), int (Parser::*)(Parser::IPROP, int)>);
+  static_assert(std::is_same_v<decltype(&ParserProbe::ParseSpecialKeyword), int (Parser::*)(Parser::IPFN)>);
+  static_assert(
+      std::is_same_v<decltype(&ParserProbe::PropCanChangeContext), bool (Parser::*)(Parser::IPROP)>);
 }
 
 TEST(RTFParser, StartsWithNothing) {
@@ -260,6 +267,18 @@ TEST(RTFParser, SkippedBytesOfLongTextAreCounted) {
   EXPECT_EQ(TextOf("{\\uc3\\u65 abcdef}"), L"Adef");
   EXPECT_EQ(TextOf("{\\uc5\\u65 ab\r\nc{d\\b e}f}"), L"Af");
   EXPECT_EQ(TextOf("{\\uc2\\u65 \\'41\\'42\\'43 d}"), L"AC d");
+}
+
+TEST(RTFParser, SkippedBytesAreCountedInSkippedGroups) {
+  EXPECT_EQ(TextOf("{\\uc3\\u65{\\*\\unk ab}cd}"), L"Ad");
+  // A hex byte is none there: its two digits count.
+  EXPECT_EQ(TextOf("{\\uc3\\u65{\\*\\unk \\'41}cd}"), L"Ad");
+}
+
+TEST(RTFParser, RawBytesAndKeywordsAreNoSkippedBytes) {
+  EXPECT_EQ(TextOf("{\\uc2\\u65\\bin2 xyabz}"), L"Axyz");
+  EXPECT_EQ(TextOf("{\\uc1\\u65\\tab xb}"), L"A\tb");
+  EXPECT_EQ(TextOf("{\\uc2\\u65\\{xyb}"), L"A{b");
 }
 
 // Hex bytes.
@@ -530,6 +549,12 @@ TEST(RTFParser, SpecialKeywordsAreIgnoredInSkippedGroupsButForBin) {
   EXPECT_EQ(probe.ParseSpecialKeyword(Parser::ipfnBin), Parser::rtfOK);
   EXPECT_EQ(probe.m_ris, Parser::risBin);
   EXPECT_EQ(probe.m_cbBin, 9);
+}
+
+TEST(RTFParser, MarkOfAnOldListNumberEndsWithItsGroup) {
+  ParserProbe probe("{\\pntext x}\n");
+  EXPECT_EQ(probe.RtfParse(), Parser::rtfOK);
+  EXPECT_EQ(probe.m_CharProps.PnText, 0);
 }
 
 // The class itself.

@@ -1,5 +1,6 @@
 #include "rtf/RTFParserWrapper.h"
 
+#include "rtf/PictureConvertHandler.h"
 #include "rtf/RTFParser.h"
 #include "rtf/RecordingHandler.h"
 #include "support/KeepForever.h"
@@ -7,11 +8,30 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <type_traits>
 
 namespace {
 
 using zebtest::KeepForever;
 using zebtest::RecordingHandler;
+
+static_assert(std::has_virtual_destructor_v<CRTFParserWrapper>);
+
+/// Counts the pictures that it refuses.
+class RefusingConverter final : public CPictureConvertHandler {
+ public:
+  bool ConvertPicture(int format, const void* /*data*/, int length, int /*reserved*/, void* /*out*/,
+                      int* /*outLength*/) override {
+    ++m_iCalls;
+    m_iFormat = format;
+    m_iLength = length;
+    return false;
+  }
+
+  int m_iCalls = 0;
+  int m_iFormat = -1;
+  int m_iLength = -1;
+};
 
 unsigned char* BytesOf(std::string& text) { return reinterpret_cast<unsigned char*>(text.data()); }
 
@@ -22,6 +42,18 @@ TEST(RTFParserWrapper, ForwardsToAParserWithItsArguments) {
       KeepForever(new CRTFParserWrapper(BytesOf(data), static_cast<int>(data.size()), &handler, nullptr));
   EXPECT_EQ(wrapper.RtfParse(), CRTFParser::rtfOK);
   EXPECT_EQ(handler.Text(), L"abc");
+}
+
+TEST(RTFParserWrapper, HandsOnThePictureHandler) {
+  std::string data = "{{\\*\\shppict{\\pict\\pngblip 8950}}}";
+  RecordingHandler handler;
+  RefusingConverter converter;
+  auto& wrapper =
+      KeepForever(new CRTFParserWrapper(BytesOf(data), static_cast<int>(data.size()), &handler, &converter));
+  EXPECT_EQ(wrapper.RtfParse(), CRTFParser::rtfOK);
+  EXPECT_EQ(converter.m_iCalls, 1);
+  EXPECT_EQ(converter.m_iFormat, 2);
+  EXPECT_EQ(converter.m_iLength, 2);
 }
 
 TEST(RTFParserWrapper, HandsOnTheResultCode) {

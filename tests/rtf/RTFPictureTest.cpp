@@ -129,6 +129,12 @@ TEST(RTFPictureTest, WrapperCountsForOnePicture) {
   EXPECT_EQ(Pictures(reading), Strings{"A"});
 }
 
+TEST(RTFPictureTest, PictureKeywordTakesThePictureBackFromTheFallback) {
+  const RTFReading reading(R"({{\nonshppict\shppict{\pict 41}{\pict 42}}{\nonshppict{\pict 43}}})");
+  EXPECT_EQ(reading.Result(), 0);
+  EXPECT_EQ(Pictures(reading), Strings{"A"});
+}
+
 TEST(RTFPictureTest, LineEndsBetweenDigitsAreSkipped) {
   const RTFReading reading("{{\\*\\shppict{\\pict 4\r\n1\n4\r2\r\n}}}");
   EXPECT_EQ(Pictures(reading), Strings{"AB"});

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <iterator>
 #include <type_traits>
 
@@ -157,6 +158,33 @@ TEST(RTFPropertiesTest, ContextStartsEmpty) {
   EXPECT_EQ(context.Picture, nullptr);
   EXPECT_EQ(context.List, nullptr);
   EXPECT_EQ(context.Level, nullptr);
+}
+
+TEST(RTFPropertiesTest, FieldsOfRecordsStandInTheirOrder) {
+  static_assert(offsetof(CRTFContext, State) == 0);
+  static_assert(offsetof(CRTFContext, State) < offsetof(CRTFContext, Font));
+  static_assert(offsetof(CRTFContext, Font) < offsetof(CRTFContext, Reserved));
+  static_assert(offsetof(CRTFContext, Reserved) < offsetof(CRTFContext, ForeColor));
+  static_assert(offsetof(CRTFContext, ForeColor) < offsetof(CRTFContext, BackColor));
+  static_assert(offsetof(CRTFContext, BackColor) < offsetof(CRTFContext, ParagraphEnd));
+  static_assert(offsetof(CRTFContext, ParagraphEnd) < offsetof(CRTFContext, LineBreak));
+  static_assert(offsetof(CRTFContext, LineBreak) < offsetof(CRTFContext, TableEnd));
+  static_assert(offsetof(CRTFContext, TableEnd) < offsetof(CRTFContext, Picture));
+  static_assert(offsetof(CRTFContext, Picture) < offsetof(CRTFContext, List));
+  static_assert(offsetof(CRTFContext, List) < offsetof(CRTFContext, Level));
+
+  static_assert(offsetof(CRTFTableRow, Cells) == 0);
+  static_assert(offsetof(CRTFTableRow, Cells) < offsetof(CRTFTableRow, BorderTop));
+  static_assert(offsetof(CRTFTableRow, BorderTop) < offsetof(CRTFTableRow, BorderBottom));
+  static_assert(offsetof(CRTFTableRow, BorderBottom) < offsetof(CRTFTableRow, BorderLeft));
+  static_assert(offsetof(CRTFTableRow, BorderLeft) < offsetof(CRTFTableRow, BorderRight));
+
+  static_assert(offsetof(CRTFTableCell, BorderTop) == 0);
+  static_assert(offsetof(CRTFTableCell, BorderTop) < offsetof(CRTFTableCell, BorderBottom));
+  static_assert(offsetof(CRTFTableCell, BorderBottom) < offsetof(CRTFTableCell, BorderLeft));
+  static_assert(offsetof(CRTFTableCell, BorderLeft) < offsetof(CRTFTableCell, BorderRight));
+  static_assert(offsetof(CRTFTableCell, BorderRight) < offsetof(CRTFTableCell, RightEdge));
+  static_assert(offsetof(CRTFTableCell, RightEdge) < offsetof(CRTFTableCell, VerticalAlign));
 }
 
 class SilentHandler final : public CContextChangedHandler {

@@ -203,6 +203,15 @@ TEST_F(RTFTableRowsTest, BorderWidthWithoutASideOrARowDoesNothing) {
   EXPECT_EQ(cell.BorderTop + cell.BorderBottom + cell.BorderLeft + cell.BorderRight, 0);
 }
 
+TEST_F(RTFTableRowsTest, FixedBorderWidthGoesToTheCellWhileThereIsOne) {
+  const Look look(R"({\trowd\clbrdrt\brdrw5\trbrdrl\brdrw6\cellx9\brdrw7\intbl a\cell})");
+  EXPECT_EQ(look.Cell(0, 0).BorderTop, 6);
+  EXPECT_EQ(look.Cell(0, 0).BorderLeft, 0);
+  const CRTFTableRow& row = look.Seen().m_Rows[0].at(0);
+  EXPECT_EQ(row.BorderTop, 0);
+  EXPECT_EQ(row.BorderLeft, 7);
+}
+
 TEST_F(RTFTableRowsTest, IgnoredBorderKeywordsAreNoFailure) {
   const Look look(R"({\trowd\trbrdrh\brdrw7\trbrdrv\brdrs\brdrw8\cellx1\intbl a\cell})");
   const CRTFTableRow& row = look.Seen().m_Rows[0].at(0);
@@ -350,6 +359,14 @@ TEST_F(RTFTableRowsTest, RowsOutliveTheirTable) {
   EXPECT_EQ(Doc(reading, 0).CurrentCell->RightEdge, 77);
 }
 
+TEST_F(RTFTableRowsTest, EndOfTheTableLeavesThePosition) {
+  const RTFReading reading(R"({\trowd\cellx1{\intbl a\cell\row}b})");
+  ASSERT_EQ(reading.Outline(), L"[a]P[]T[b]");
+  EXPECT_EQ(Doc(reading, 0).Rows.at(0)->Cells.size(), 0U);
+  EXPECT_EQ(Doc(reading, 2).RowIndex, 0);
+  EXPECT_EQ(Doc(reading, 2).CellIndex, -1);
+}
+
 TEST_F(RTFTableRowsTest, RowsOfAGroupGoWithIt) {
   const Look look(R"({\trowd\cellx1{\trowd\cellx2}\intbl a\cell})");
   EXPECT_EQ(look.Seen().m_Counts[0], Counts{1});
@@ -397,6 +414,12 @@ TEST_F(RTFTableRowsTest, TabQuoteAndLineFeedNoteFormatting) {
     // The rest is what is in force at the end of the cell.
     EXPECT_EQ(reading.Runs()[0].m_State.FontProps.FontId, 3) << noting;
   }
+}
+
+TEST_F(RTFTableRowsTest, ListTextNotesNoFormatting) {
+  const RTFReading reading(R"({\trowd\cellx1\intbl{\listtext\fs30\b\tab}a\cell\row})");
+  EXPECT_EQ(Chars(reading, 0).FontSize, 0);
+  EXPECT_EQ(Chars(reading, 0).Bold, 0);
 }
 
 TEST_F(RTFTableRowsTest, UnderlineOfACellIsTheCurrentOne) {
