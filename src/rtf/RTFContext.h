@@ -20,7 +20,8 @@ class ZEB_EXPORT CRTFContext {
   CRTFFont* Font = nullptr;  // observer
   /// Set by no one.
   void* Reserved = nullptr;  // observer
-  /// Null if the document's colour table has no such colour.
+  /// Null if the document's colour table has no such colour. Index 0, which writers leave empty to say "automatic",
+  /// arrives as the first colour, mostly black, for the background too.
   CRTFColor* ForeColor = nullptr;  // observer
   CRTFColor* BackColor = nullptr;  // observer
   /// 1 if the run ends a paragraph, or a cell of a table.
@@ -31,7 +32,8 @@ class ZEB_EXPORT CRTFContext {
   unsigned char TableEnd = 0;
   /// The bytes of a picture that stands behind the text of the run, else null.
   CFontData* Picture = nullptr;  // observer
-  /// List and level of the paragraph, null if there is none.
+  /// List and level in force, null if there is none. They stay in force behind the list, to the end of their group. Where
+  /// `\ilvl` stands in front of `\ls`, the level is that of the list before.
   CRTFListTableEntry* List = nullptr;   // observer
   CRTFListLevelEntry* Level = nullptr;  // observer
 };

@@ -42,7 +42,9 @@ class ZEB_EXPORT CRTFListLevelEntry {
   void SetCharProps(CCharacterProperties charProps);
   CParagraphProperties GetParProps() const;
   void SetParProps(CParagraphProperties parProps);
-  /// Number or bullet of the latest paragraph of this level, with the tab or blank behind it. Valid until set anew.
+  /// Number or bullet of the latest paragraph of this level, with the tab or blank behind it. Where `\listtext` stands in
+  /// front of `\ls`, it is that of the paragraph behind: the text goes to the level that is still in force, and the
+  /// first one is lost. Valid until set anew.
   const wchar_t* GetListText() const;
   void SetListText(const wchar_t* listText);
   /// The font of the list text.

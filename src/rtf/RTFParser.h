@@ -45,16 +45,16 @@ class ZEB_EXPORT CRTFParser {
     rdsPicture = 7,             // the data of a picture
     rdsListTable = 8,           // the level of a list table
     rdsListLevel = 9,           // a level of a list
-    rdsLevelText = 10,          // the text form of a level, dropped
-    rdsLevelNumbers = 11,       // the places of numbers in it, dropped
+    rdsLevelText = 10,          // the text form of a level, dropped but for \u characters
+    rdsLevelNumbers = 11,       // the places of numbers in it, dropped but for \u characters
     rdsListOverrideTable = 12,  // the level of a list override table
     rdsListText = 13,           // the text in front of a paragraph of a list
     rdsPn = 14,                 // an old list number, dropped
     rdsBookmarkStart = 15,      // a bookmark's name
     rdsBookmarkEnd = 16,        // a bookmark's name
-    rdsPnText = 17,             // the text form of an old list number, dropped
-    rdsPnTextBefore = 18,       // what stands before an old list number, dropped
-    rdsPnTextAfter = 19,        // what stands behind an old list number, dropped
+    rdsPnText = 17,             // the text form of an old list number, dropped but for \u characters
+    rdsPnTextBefore = 18,       // what stands before an old list number, dropped but for \u characters
+    rdsPnTextAfter = 19,        // what stands behind an old list number, dropped but for \u characters
   };
 
   /// What the next bytes are.
@@ -270,7 +270,7 @@ class ZEB_EXPORT CRTFParser {
     // Fixed behaviour: goes back behind the data's end as well, where GetChar did not move.
     if (m_pCur > m_pBegin) --m_pCur;
   }
-  /// Takes a character of the keyword table, a raw byte or the line feed of a paragraph in a table.
+  /// Takes a character of the keyword table or a raw byte.
   int ParseChar(unsigned char ch);
   /// Reads what follows a backslash.
   int ParseRtfKeyword();
@@ -286,9 +286,11 @@ class ZEB_EXPORT CRTFParser {
   /// Does nothing in a skipped group, but for raw bytes, so that they are stepped over.
   int ParseSpecialKeyword(IPFN keyword);
   /// Does what a property without a field of its own asks for.
-  /// @return rtfBadTable for a property that stores a value, and for one that may not stand here
+  /// @return rtfBadTable for a property that stores a value, and for one that may not stand here; rtfNoMemory for a
+  ///   paragraph reset in a group so deep that it shares its saved state, if there is no memory for one of its own
   int ParseSpecialProperty(IPROP prop, int value);
-  /// Whether a change of the property closes the run of text in front of it.
+  /// Whether a property is one of those whose change closes a run (outside of tables). Also true of `\s`, which closes
+  /// none by itself.
   bool PropCanChangeContext(IPROP prop);
   /// An opening brace: saves the formatting.
   int PushRtfState();
@@ -306,8 +308,9 @@ class ZEB_EXPORT CRTFParser {
   void ParseMultiByteCharacter(char* bytes, int count);
   /// Sends a decoded character to what the destination is building. In text, PrintUnicodeChar takes it.
   int ParseUnicodeChar(wchar_t ch);
-  /// Appends a byte-sized character, widened by its value, to the buffer of the destination. In a table it notes the
-  /// current formatting for the cell.
+  /// Appends a byte-sized character, widened by its value, to the buffer of the destination. Also takes the line feed of
+  /// `\par` in a table. In font, style and colour entries the character goes into the text. What goes into the text of a
+  /// table notes the current formatting for the cell.
   int PrintChar(unsigned char ch);
   /// Appends a character to the buffer of the destination. A zero character is dropped.
   int PrintUnicodeChar(wchar_t ch);

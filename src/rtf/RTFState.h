@@ -7,7 +7,8 @@
 #include <cstddef>
 
 /// The formatting that a parser saves at an opening brace and restores at the closing one. It is a node of a singly
-/// linked stack. With every run of text a handler gets one that is part of no stack.
+/// linked stack. With every run of text a handler gets one that is part of no stack: in it only the five property
+/// objects are filled. List and level of the run stand in CRTFContext.
 class ZEB_EXPORT CRTFState {
  public:
   CRTFState* Next = nullptr;  // observer
