@@ -3,7 +3,6 @@
 #include "foundation/ErrorKeys.h"
 #include "foundation/KXExceptionHandler.h"
 #include "platform/FileHandle.h"
-#include "platform/FileMapping.h"
 
 #include <algorithm>
 #include <climits>
@@ -47,8 +46,8 @@ CFontData::CFontData(int chunk, bool growing)
 CFontData::CFontData(const CFontData& other) = default;
 
 CFontData::~CFontData() {
-  if (m_pMapping == nullptr) std::free(m_pBuffer);
-  delete m_pMapping;
+  if (m_pKeeper == nullptr) std::free(m_pBuffer);
+  delete m_pKeeper;
 }
 
 CFontData& CFontData::operator=(const CFontData& other) = default;
@@ -58,28 +57,27 @@ void CFontData::Resize(long long chunks) {
   if (capacity > INT_MAX) ThrowNoMoreMemory();
   const auto size = static_cast<std::size_t>(capacity);
   // A first block that the system gives zeroed need not be touched before it is used.
-  const bool mapped = m_pBuffer != nullptr && m_pMapping != nullptr;
-  void* const buffer = m_pBuffer == nullptr || mapped ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
+  const bool adopted = m_pBuffer != nullptr && m_pKeeper != nullptr;
+  void* const buffer = m_pBuffer == nullptr || adopted ? std::calloc(size, 1) : std::realloc(m_pBuffer, size);
   if (buffer == nullptr) ThrowNoMoreMemory();
-  if (mapped) std::memcpy(buffer, m_pBuffer, static_cast<std::size_t>(m_iCapacity));
-  delete std::exchange(m_pMapping, nullptr);
+  if (adopted) std::memcpy(buffer, m_pBuffer, static_cast<std::size_t>(m_iCapacity));
+  delete std::exchange(m_pKeeper, nullptr);
   m_pBuffer = static_cast<unsigned char*>(buffer);
   m_iCapacity = static_cast<int>(capacity);
 }
 
-void CFontData::AdoptMapping(std::shared_ptr<zeb::FileMapping> mapping) {
-  const auto length = static_cast<int>(mapping->Bytes().size());
+void CFontData::AdoptContent(std::shared_ptr<void> keeper, unsigned char* bytes, int count) {
   if (m_iLength != 0 || m_iCapacity != kDefaultChunk || m_iChunkSize != kDefaultChunk) {
-    AddFontMemData(mapping->Bytes().data(), length);
+    AddFontMemData(bytes, count);
     return;
   }
-  const long long growth = length > m_iCapacity ? length / m_iChunkSize + 1LL : 0;
+  const long long growth = count > m_iCapacity ? count / m_iChunkSize + 1LL : 0;
   const long long capacity = m_iCapacity + growth * m_iChunkSize;
   if (capacity > INT_MAX) ThrowNoMoreMemory();
   std::free(m_pBuffer);
-  m_pBuffer = reinterpret_cast<unsigned char*>(mapping->Bytes().data());
-  m_pMapping = new std::shared_ptr<zeb::FileMapping>(std::move(mapping));
-  m_iLength = length;
+  m_pBuffer = bytes;
+  m_pKeeper = new std::shared_ptr<void>(std::move(keeper));
+  m_iLength = count;
   m_iCapacity = static_cast<int>(capacity);
 }
 

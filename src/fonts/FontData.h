@@ -5,9 +5,11 @@
 #include <cstddef>
 #include <memory>
 
+class CFontInformation;
+
 namespace zeb {
-class FileMapping;
 class TrueTypeReader;
+int BytesFromSystem(const CFontInformation& font);
 }  // namespace zeb
 
 /// A growing block of bytes with a cursor. It holds a font program (or a picture) as read, is parsed in place
@@ -121,22 +123,23 @@ class ZEB_EXPORT CFontData {
  private:
   friend class zeb::TrueTypeReader;
   friend class CFontMetrics;
+  friend int zeb::BytesFromSystem(const CFontInformation& font);
 
   /// As much as the growth of a new object can leave behind the content.
-  static constexpr std::size_t kZerosBehindMapping = std::size_t{2} * 65535;
+  static constexpr std::size_t kZerosBehindContent = std::size_t{2} * 65535;
 
   void Resize(long long chunks);
   void Grow(long long chunks);
   /// Adds bytes of any value to the content, which the caller fills in place at once; gives the first one.
   unsigned char* ExtendContent(int count);
-  /// Makes a file the content, as if its bytes had been added. They stay where they are if this object is as new.
-  /// @param mapping of up to INT_MAX bytes with kZerosBehindMapping zeros behind them
-  void AdoptMapping(std::shared_ptr<zeb::FileMapping> mapping);
+  /// Makes bytes the content, as if they had been added. They stay where they are if this object is as new.
+  /// @param keeper keeps the bytes and kZerosBehindContent zeros behind them
+  void AdoptContent(std::shared_ptr<void> keeper, unsigned char* bytes, int count);
   void MakeRoomAtCursor(int count);
   unsigned int BigEndianAt(long long pos, int count) const;
   void WriteBigEndianAtPos(int pos, unsigned int value, int count);
   void CopyOut(int pos, int count, unsigned char* target) const;
   void MoveCursor(long long pos);
 
-  std::shared_ptr<zeb::FileMapping>* m_pMapping = nullptr;  // owned, shared by copies; holds a file's block
+  std::shared_ptr<void>* m_pKeeper = nullptr;  // owned, shared by copies; of the block, if that was adopted
 };

@@ -1,7 +1,5 @@
 #include "fonts/TrueTypeGlyphs.h"
 
-#include "platform/FileMapping.h"
-
 #include <algorithm>
 #include <cstddef>
 

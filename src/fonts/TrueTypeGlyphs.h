@@ -14,8 +14,6 @@
 
 namespace zeb {
 
-class FileMapping;
-
 /// The glyphs of a TrueType font. Their tables are checked to the end when the font is read; the record of a glyph is
 /// made of them when it is first asked for, as a font has tens of thousands and a document uses a few.
 ///
@@ -64,7 +62,7 @@ class TrueTypeGlyphs {
   void AddCode(std::uint16_t code, std::uint16_t glyph) { m_Codes.push_back({code, glyph}); }
 
   /// The bytes of the tables stay as long as this object.
-  void KeepBytes(std::shared_ptr<FileMapping> bytes) { m_pBytes = std::move(bytes); }
+  void KeepBytes(std::shared_ptr<void> keeper) { m_pKeeper = std::move(keeper); }
   /// Makes all records, so that the bytes of the tables may go.
   void MakeAll();
 
@@ -88,7 +86,7 @@ class TrueTypeGlyphs {
   void SortCodes();
 
   int m_iCount;
-  std::shared_ptr<FileMapping> m_pBytes;  // null if others keep the bytes
+  std::shared_ptr<void> m_pKeeper;  // of the bytes; null if others keep them
   ByteReader m_HMtx;
   int m_iMetricsCount = 0;
   ByteReader m_Loca;

@@ -86,8 +86,8 @@ TrueTypeStatus TrueTypeReader::Read() {
 }
 
 void TrueTypeReader::KeepGlyphs() const {
-  if (const auto* const mapping = m_metrics.m_pFontData->m_pMapping) {
-    m_pGlyphs->KeepBytes(*mapping);
+  if (const auto* const keeper = m_metrics.m_pFontData->m_pKeeper) {
+    m_pGlyphs->KeepBytes(*keeper);
   } else {
     // The font data may go or change while the parsed file stays.
     m_pGlyphs->MakeAll();

@@ -52,14 +52,16 @@ std::span<std::byte> TrueTypeReader::MakeRoomForFont(int size) {
 bool TrueTypeReader::TakeMapping(std::shared_ptr<FileMapping> mapping) {
   if (!mapping || mapping->Bytes().size() > INT_MAX) return false;
   CFontData& data = MakeFontData();
-  data.AdoptMapping(std::move(mapping));
+  const std::span<std::byte> bytes = mapping->Bytes();
+  data.AdoptContent(std::move(mapping), reinterpret_cast<unsigned char*>(bytes.data()),
+                    static_cast<int>(bytes.size()));
   m_bytes = ByteReader(data.GetData(), data.GetLength());
   return true;
 }
 
 TrueTypeStatus TrueTypeReader::FetchFile() {
   if (*m_request.filePath == L'\0' || m_metrics.m_iFileHandle != -1) return kTrueTypeBadArguments;
-  if (TakeMapping(FileMapping::Open(m_request.filePath, CFontData::kZerosBehindMapping))) {
+  if (TakeMapping(FileMapping::Open(m_request.filePath, CFontData::kZerosBehindContent))) {
     m_metrics.SetFontType(CFontMetrics::FontTypeTrueType);
     return kTrueTypeDone;
   }
@@ -83,7 +85,7 @@ TrueTypeStatus TrueTypeReader::FetchInstalledFont() {
     return kTrueTypeNotThere;
   if (font.Size() < kSmallestFont) return kTrueTypeNotThere;
   if (font.Size() > INT_MAX) return kTrueTypeNoMemory;
-  if (!TakeMapping(font.Map(CFontData::kZerosBehindMapping))) {
+  if (!TakeMapping(font.Map(CFontData::kZerosBehindContent))) {
     const std::span<std::byte> room = MakeRoomForFont(static_cast<int>(font.Size()));
     if (!font.Read(room)) {
       std::fill(room.begin(), room.end(), std::byte{0});
