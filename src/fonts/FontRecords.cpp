@@ -62,7 +62,8 @@ void ReadFonts(RecordReader& reader, CFonts& fonts, CIDManager& ids) {
 
 int BytesFromSystem(const CFontInformation& font) {
   const CFontData* const program = font.GetFontMetrics()->GetFontData();
-  return font.m_bSystemProgram && program != nullptr ? program->GetLength() : 0;
+  if (!font.m_bSystemProgram || program == nullptr || program->m_pKeeper != nullptr) return 0;
+  return program->GetLength();
 }
 
 void ReadFontRecords(RecordReader& reader, CGlobalFontHandler& handler, CIDManager& ids) {

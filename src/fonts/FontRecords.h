@@ -20,11 +20,12 @@ inline constexpr int kMostEncodingsOfFile = 1000;
 /// tables and, without the font pool, the program as well. What lies beyond is stepped over.
 inline constexpr int kMostFontsOfFile = 250;
 
-/// Bytes of programs that the fonts of one file get from the operating system and the pool does not keep. Each font has
-/// bytes of its own then, also if it is the same font again. One font more ends the reading.
+/// Bytes of programs that the fonts of one file read from the operating system and the pool does not keep. Each font has
+/// bytes of its own then, also if it is the same font again. One font more ends the reading. Programs that stay in the
+/// files of the system do not count.
 inline constexpr long long kMostSystemBytesOfFile = 256LL * 1024 * 1024;
 
-/// The length of a program that a font's Load got from the operating system and the pool does not keep; else 0.
+/// The length of a program that a font's Load read from the operating system and the pool does not keep; else 0.
 int BytesFromSystem(const CFontInformation& font);
 
 /// Reads the font records and, behind them, the encoding records that stand at the cursor, into the handler's lists.

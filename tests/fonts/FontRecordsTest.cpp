@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -251,6 +252,26 @@ TEST(FontRecords, ProgramsOfTheSystemAreLimited) {
   EXPECT_EQ(zebtest::RaisedKey([&] { LoadRecord(document, DocumentOfLargeFonts(kMostLargeFonts + 1)); }),
             L"NoMoreMemoryLeft");
   EXPECT_EQ(document.GetFontHandler()->GetFonts()->GetFontCount(), StandardFontCount() + kMostLargeFonts);
+}
+
+TEST(FontRecords, ProgramsThatStayInTheFilesOfTheSystemAreNotLimited) {
+  if (!std::filesystem::exists("/usr/share/fonts/truetype/wqy/wqy-zenhei.ttc")) {
+    GTEST_SKIP() << "the font WenQuanYi Zen Hei is not installed";
+  }
+  // 20 times 16 MB.
+  CReportDocument document;
+  EXPECT_EQ(
+      zebtest::RaisedKey([&] {
+        LoadRecord(
+            document,
+            "<ReportDocument>" +
+                Repeated("<FontInformation><BaseFont>WenQuanYi Zen Hei</BaseFont><Encoding>cid</Encoding>"
+                         "<Flags>0</Flags><FontType>2</FontType></FontInformation>",
+                         20) +
+                "</ReportDocument>");
+      }),
+      L"");
+  EXPECT_EQ(document.GetFontHandler()->GetFonts()->GetFontCount(), StandardFontCount() + 20);
 }
 
 TEST(FontRecords, ProgramsThatThePoolKeepsAreNotLimited) {
