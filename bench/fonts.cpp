@@ -1,7 +1,6 @@
 // TrueType fonts read in full: metrics, names, character map and widths. FreeType opens the same font, chooses its
-// Unicode map and fetches all advances; once from the file, which it only maps, and once from bytes in memory, which is
-// what a caller needs who embeds the font, as ours holds them. `map` adds the walk over all characters that ours has done
-// when it ends.
+// Unicode map and fetches all advances; once from the file, which both map into memory, and once from bytes that were read.
+// `map` adds the walk over all characters, which ours has done when it ends.
 
 #include "fonts/FontInformation.h"
 #include "fonts/FontMetrics.h"
@@ -138,6 +137,7 @@ int PrintPeak(const std::string& wanted) {
 
 int main(int argc, char** argv) {
   if (argc == 3 && std::strcmp(argv[1], "--peak") == 0) return PrintPeak(argv[2]);
+  zebbench::KeepFreedMemory();
   for (const Font& font : Fonts()) {
     if (!std::filesystem::exists(font.file)) continue;
     for (const auto& [name, act] : ActionsOf(font)) Register(name, font, act);

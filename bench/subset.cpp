@@ -151,6 +151,7 @@ void Register(const char* work, const Case& of, const char* who,
 }  // namespace
 
 int main(int argc, char** argv) {
+  zebbench::KeepFreedMemory();
   for (const Case& of : Cases()) {
     if (!std::filesystem::exists(of.path)) continue;
     Register("subset", of, "ours", MeasureSubset, true);

@@ -1,5 +1,6 @@
 #include "support/Measuring.h"
 
+#include <malloc.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -19,6 +20,13 @@ ScratchFolder::ScratchFolder()
 ScratchFolder::~ScratchFolder() {
   std::error_code ignored;
   fs::remove_all(m_Path, ignored);
+}
+
+void KeepFreedMemory() {
+#ifdef __GLIBC__
+  mallopt(M_TRIM_THRESHOLD, 1 << 30);
+  mallopt(M_MMAP_THRESHOLD, 32 << 20);  // the greatest that it takes
+#endif
 }
 
 double PeakMegabytes() {

@@ -19,6 +19,11 @@ class ScratchFolder {
   std::filesystem::path m_Path;
 };
 
+/// Memory that is freed stays with this process, as in a program that lives on. Otherwise the allocator gives back what
+/// lies at the end after each round, and the next round waits for the system to give it again: what is measured then
+/// depends on sizes that have nothing to do with the work.
+void KeepFreedMemory();
+
 /// The most memory that this process ever had resident, in MB; 0 where the system does not tell.
 double PeakMegabytes();
 
