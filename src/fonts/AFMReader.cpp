@@ -372,7 +372,7 @@ void CPostscriptFontMetrics::TakeWidthsOfNames() {
   const int defaultWidth = space == widths.end() ? kDefaultWidth : space->second;
   // Fixed behaviour: widths go by the names of winansi1252, which every reading of a file starts from; the codes of
   // the file do not count.
-  for (int code = 0; code < static_cast<int>(m_rgstrCharNames.size()); ++code) {
+  for (int code = 0; code < static_cast<int>(m_rgpCharNames.size()); ++code) {
     const wchar_t* const name = GetCharNameAt(code);
     const auto found = *name == L'\0' ? widths.end() : widths.find(name);
     SetWidthAt(code, static_cast<unsigned short>(found == widths.end() ? defaultWidth : found->second));

@@ -3,6 +3,7 @@
 #include "fonts/EncodingTables.h"
 #include "fonts/FontData.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace {
@@ -23,15 +24,6 @@ int FlagsOfName(std::wstring_view name) {
   if (name.find(L"Caps") != std::wstring_view::npos || name.ends_with(L"SC")) flags |= kFlagSmallCaps;
   if (name.find(L"Bold") != std::wstring_view::npos) flags |= kFlagForceBold;
   return flags;
-}
-
-void FillEncoding(CFontMetrics& metrics, const zeb::EncodingTable& table) {
-  int code = 0;
-  for (const zeb::EncodingRow& row : table) {
-    metrics.SetUnicodeAt(code, row.unicode);
-    metrics.SetCharNameAt(code, row.name);
-    ++code;
-  }
 }
 
 }  // namespace
@@ -82,9 +74,18 @@ void CFontMetrics::BuildFontDescriptorFlag() {
   if (m_iStemVW >= kBoldStem) m_iFlags |= kFlagForceBold;
 }
 
-void CFontMetrics::SetWinAnsiEncoding() { FillEncoding(*this, zeb::kWinAnsiEncoding); }
+void CFontMetrics::SetWinAnsiEncoding() { UseEncodingOf(1252); }
 
-void CFontMetrics::SetCP1250Encoding() { FillEncoding(*this, zeb::kCP1250Encoding); }
+void CFontMetrics::SetCP1250Encoding() { UseEncodingOf(1250); }
+
+void CFontMetrics::UseEncodingOf(int codePage) {
+  const zeb::EncodingTable& rows = codePage == 1250 ? zeb::kCP1250Encoding : zeb::kWinAnsiEncoding;
+  for (std::size_t code = 0; code < rows.size(); ++code) {
+    m_rgusUnicodes[code] = rows[code].unicode;
+    m_rgpCharNames[code] = rows[code].name;
+  }
+  m_OwnCharNames.clear();
+}
 
 bool CFontMetrics::GetBase14Font() const { return m_bBase14Font; }
 

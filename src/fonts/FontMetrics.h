@@ -321,7 +321,8 @@ class ZEB_EXPORT CFontMetrics {
   bool m_bCJKFont = false;
   std::wstring m_strTTName;
   unsigned short m_rgusUnicodes[256] = {};
-  std::array<std::wstring, 256> m_rgstrCharNames;
+  std::array<const wchar_t*, 256> m_rgpCharNames = {};  // of an encoding; observers
+  std::map<int, std::wstring> m_OwnCharNames;           // by code; those that were set singly
   bool m_bUnicodeFont = false;
   CharColl m_CharColl = static_cast<CharColl>(-1);
   CFontData* m_pSubsetData = nullptr;  // owned, shared by copies
@@ -349,6 +350,9 @@ class ZEB_EXPORT CFontMetrics {
   bool m_bItalicFont = true;
 
  private:
+  /// Takes the meaning of all codes from the table of a code page.
+  /// @param codePage 1250, or anything else for 1252
+  void UseEncodingOf(int codePage);
   /// All steps of CreateSubsetFont.
   void BuildSubset(CFontData* source, CTrueTypeFile& file);
 };

@@ -139,9 +139,10 @@ unsigned short CFontMetrics::GetUnicodeAt(int code) const { return m_rgusUnicode
 void CFontMetrics::SetUnicodeAt(int code, unsigned short unicode) { m_rgusUnicodes[code] = unicode; }
 
 const wchar_t* CFontMetrics::GetCharNameAt(int code) const {
-  return m_rgstrCharNames[static_cast<std::size_t>(code)].c_str();
+  const auto own = m_OwnCharNames.find(code);
+  return own != m_OwnCharNames.end() ? own->second.c_str() : m_rgpCharNames[static_cast<std::size_t>(code)];
 }
 
 void CFontMetrics::SetCharNameAt(int code, const wchar_t* name) {
-  m_rgstrCharNames[static_cast<std::size_t>(code)] = name;
+  m_OwnCharNames[code] = name;
 }

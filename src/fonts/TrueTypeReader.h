@@ -71,7 +71,7 @@ class TrueTypeReader {
   void FillWidths(const CTrueTypeCMap4& map);
   void FillWidthsOfBytes(const CTrueTypeCMap4& map);
   void FillWidthsOfSegments(const CTrueTypeCMap4& map);
-  unsigned short WidthOf(int glyph) const;
+  unsigned short WidthOf(int glyph);
   void SetWidth(int code, int glyph);
 
   CTrueTypeFontMetrics& m_metrics;
@@ -81,6 +81,8 @@ class TrueTypeReader {
   ByteReader m_bytes;
   std::uint32_t m_uFontOffset = 0;
   std::unique_ptr<CTrueTypeFile> m_pFile;
+  unsigned short m_usAdvance = 0;       // of the glyph that was asked for last, in font units
+  unsigned short m_usWidth = 0;         // the same as a width of the metrics
   TrueTypeGlyphs* m_pGlyphs = nullptr;  // observer, the file's
 };
 

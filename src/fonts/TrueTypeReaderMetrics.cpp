@@ -171,9 +171,15 @@ void TrueTypeReader::FillWidthsOfSegments(const CTrueTypeCMap4& map) {
   for (; code <= last; ++code) SetWidth(code, map.GetGlyphOfSegment(0, static_cast<unsigned short>(code)));
 }
 
-unsigned short TrueTypeReader::WidthOf(int glyph) const {
-  // Fixed behaviour: truncated, where other values are rounded.
-  return static_cast<unsigned short>(m_pGlyphs->AdvanceWidthOf(glyph) * 1000 / m_metrics.m_usUnitsPerEm);
+unsigned short TrueTypeReader::WidthOf(int glyph) {
+  const unsigned short advance = m_pGlyphs->AdvanceWidthOf(glyph);
+  // Neighbours often have one width.
+  if (advance != m_usAdvance) {
+    m_usAdvance = advance;
+    // Fixed behaviour: truncated, where other values are rounded.
+    m_usWidth = static_cast<unsigned short>(advance * 1000 / m_metrics.m_usUnitsPerEm);
+  }
+  return m_usWidth;
 }
 
 void TrueTypeReader::SetWidth(int code, int glyph) {

@@ -17,7 +17,6 @@
 namespace {
 
 using zebtest::Asked;
-using zebtest::TempDir;
 using zebtest::TrueTypeFont;
 using zebtest::WidePath;
 
