@@ -49,7 +49,7 @@ std::wstring Colour(const wchar_t* name, const CRTFColor* colour) {
 std::wstring Objects(const CRTFContext& context) {
   std::wstring text;
   if (context.Font != nullptr) {
-    text += L" Font=" + Quoted(context.Font->GetFontFaceName()) +
+    text += L" Font=" + Quoted(Beginning(context.Font->GetFontFaceName())) +
             Shown({L"FontCharSet", context.Font->GetFontCharSet()});
   }
   text += Colour(L"ForeColor", context.ForeColor) + Colour(L"BackColor", context.BackColor);
@@ -58,7 +58,7 @@ std::wstring Objects(const CRTFContext& context) {
   }
   if (context.List != nullptr) text += L" List=" + std::to_wstring(context.List->GetListId());
   if (context.Level != nullptr) {
-    text += L" Level=" + Quoted(context.Level->GetListText()) +
+    text += L" Level=" + Quoted(Beginning(context.Level->GetListText())) +
             Shown({L"Levelnfc", context.Level->GetLevelnfc()});
   }
   return text;

@@ -2,6 +2,7 @@
 #include "RtfFile.h"
 #include "RtfTable.h"
 #include "RtfViews.h"
+#include "TextFormat.h"
 
 #include <algorithm>
 #include <cstring>
@@ -50,7 +51,7 @@ std::wstring RunStyle(const CRTFContext& context) {
   const CRTFState& state = *context.State;
   std::wstring style;
   if (context.Font != nullptr && *context.Font->GetFontFaceName() != L'\0') {
-    style += L"font-family:" + StyleString(context.Font->GetFontFaceName()) + L",sans-serif;";
+    style += L"font-family:" + StyleString(Beginning(context.Font->GetFontFaceName())) + L",sans-serif;";
   }
   if (state.CharProps.FontSize > 0) {
     const bool raised = state.CharProps.Superscript != 0 || state.CharProps.Subscript != 0;

@@ -1,5 +1,7 @@
 #include "RtfTable.h"
 
+#include "TextFormat.h"
+
 namespace zebreport {
 
 namespace {
@@ -88,7 +90,7 @@ std::wstring ListMark(const CRTFContext& context) {
   // A list stays in force behind its last paragraph. Paragraphs of lists alone have both indents.
   const CParagraphProperties& props = context.State->ParProps;
   if (context.List == nullptr || props.LeftIndent == 0) return {};
-  const std::wstring mark = context.Level == nullptr ? L"" : context.Level->GetListText();
+  const std::wstring mark = context.Level == nullptr ? L"" : Beginning(context.Level->GetListText());
   return mark.empty() && props.FirstIndent != 0 ? L"\u2022\t" : mark;
 }
 

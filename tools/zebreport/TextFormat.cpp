@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cwchar>
 
 namespace zebreport {
 
 namespace {
 
 constexpr std::size_t kShortLength = 40;
+constexpr std::size_t kLongestBeginning = 255;
 constexpr int kDecimals = 6;
 
 }  // namespace
@@ -64,6 +66,8 @@ std::wstring QuotedIfNeeded(const std::wstring& text) {
       std::none_of(text.begin(), text.end(), [](wchar_t c) { return c < L' ' || c == L'"'; });
   return isPlain ? text : Quoted(text);
 }
+
+std::wstring Beginning(const wchar_t* text) { return {text, wcsnlen(text, kLongestBeginning)}; }
 
 std::wstring QuotedShort(const std::wstring& text) {
   return text.size() <= kShortLength ? Quoted(text) : Quoted(text.substr(0, kShortLength)) + L"...";

@@ -22,6 +22,9 @@ std::wstring QuotedIfNeeded(const std::wstring& text);
 /// As Quoted, but cut to a length that fits beside other words, with three points at the end.
 std::wstring QuotedShort(const std::wstring& text);
 
+/// The first 255 characters of a name that a file may repeat at will: so output grows with the file, not with its square.
+std::wstring Beginning(const wchar_t* text);
+
 /// The parts with ", " between them.
 std::wstring Joined(const std::vector<std::wstring>& parts);
 
