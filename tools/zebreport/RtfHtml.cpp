@@ -1,5 +1,6 @@
 #include "Html.h"
 #include "RtfFile.h"
+#include "RtfList.h"
 #include "RtfTable.h"
 #include "RtfViews.h"
 #include "TextFormat.h"
@@ -104,22 +105,18 @@ class Page final : public CContextChangedHandler {
 
   void OnContextChanged(const wchar_t* text, CRTFContext* context) override {
     const TableStep step = m_table.Next(text, *context);
+    const std::wstring mark = m_marks.Next(text, *context, step.startsParagraph);
     if (step.endsTable) EndTable();
     if (step.ignored) return;
     if (step.place.has_value()) {
       OpenCell(*context->State, step);
     } else {
-      OpenParagraph(*context);
+      OpenParagraph(context->State->ParProps);
     }
-    m_html += Run(text, *context);
+    m_html += EscapedHtml(mark) + Run(text, *context);
     if (context->Picture != nullptr) m_html += HtmlPicture(*context->Picture, context->State->CharProps);
     if (context->LineBreak != 0) m_html += L"<br>";
-    if (context->ParagraphEnd == 0) return;
-    if (step.place.has_value()) {
-      m_paragraphEndedInCell = true;
-    } else {
-      EndParagraph();
-    }
+    if (context->ParagraphEnd != 0 && !step.place.has_value()) EndParagraph();
   }
 
   void OnBookmark(std::wstring name, bool start) override {
@@ -133,10 +130,9 @@ class Page final : public CContextChangedHandler {
   }
 
  private:
-  void OpenParagraph(const CRTFContext& context) {
+  void OpenParagraph(const CParagraphProperties& props) {
     if (m_inParagraph) return;
-    m_html += L"<p style=\"" + ParagraphStyle(context.State->ParProps) + L"\">";
-    m_html += EscapedHtml(ListMark(context));
+    m_html += L"<p style=\"" + ParagraphStyle(props) + L"\">";
     m_inParagraph = true;
   }
 
@@ -153,23 +149,21 @@ class Page final : public CContextChangedHandler {
     if (step.startsCell) {
       if (!step.startsRow && !step.startsTable) m_html += L"</td>";
       m_html += L"<td style=\"" + CellStyle(state, *step.place) + L"\">";
-    } else if (m_paragraphEndedInCell) {
+    } else if (step.startsParagraph) {
       m_html += L"<br>";
     }
-    m_paragraphEndedInCell = false;
   }
 
   void EndTable() {
     if (m_inTable) m_html += L"</td></tr></table>\n";
     m_inTable = false;
-    m_paragraphEndedInCell = false;
   }
 
   std::wstring& m_html;
   TableWalk m_table;
+  ListMarks m_marks;
   bool m_inParagraph = false;
   bool m_inTable = false;
-  bool m_paragraphEndedInCell = false;
 };
 
 /// Takes what browsers show as it is, so that it arrives with the size that stands beside it.

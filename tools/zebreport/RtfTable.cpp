@@ -1,7 +1,5 @@
 #include "RtfTable.h"
 
-#include "TextFormat.h"
-
 namespace zebreport {
 
 namespace {
@@ -33,6 +31,15 @@ bool IsRowFull(const TablePlace& place) {
 }  // namespace
 
 TableStep TableWalk::Next(const std::wstring& text, const CRTFContext& context) {
+  const bool paragraphEnded = m_paragraphEnded;
+  TableStep step = FindStep(text, context);
+  if (step.ignored) return step;
+  step.startsParagraph = paragraphEnded || step.startsCell || step.endsTable;
+  m_paragraphEnded = context.ParagraphEnd != 0;
+  return step;
+}
+
+TableStep TableWalk::FindStep(const std::wstring& text, const CRTFContext& context) {
   const CRTFState& state = *context.State;
   TableStep step;
   step.ignored = context.TableEnd != 0 && text.empty() && context.Picture == nullptr;
@@ -84,14 +91,6 @@ bool TableWalk::StartsRow(const TablePlace& place) const {
   if (place.row != m_last->row) return true;
   if (place.column >= 0 && place.column < m_counted) return true;
   return place.column == m_counted && m_cellEnded && IsRowFull(*m_last);
-}
-
-std::wstring ListMark(const CRTFContext& context) {
-  // A list stays in force behind its last paragraph. Paragraphs of lists alone have both indents.
-  const CParagraphProperties& props = context.State->ParProps;
-  if (context.List == nullptr || props.LeftIndent == 0) return {};
-  const std::wstring mark = context.Level == nullptr ? L"" : Beginning(context.Level->GetListText());
-  return mark.empty() && props.FirstIndent != 0 ? L"\u2022\t" : mark;
 }
 
 }  // namespace zebreport

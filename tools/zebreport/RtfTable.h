@@ -15,13 +15,14 @@ struct TablePlace {
   const CRTFTableCell* cell = nullptr;  ///< as it is described, null if it is not
 };
 
-/// What a run of text means for the tables of a document.
+/// What a run of text means for the tables and paragraphs of a document.
 struct TableStep {
   bool ignored = false;    ///< says that a table ends and nothing else
   bool endsTable = false;  ///< the table before it has ended
   bool startsTable = false;
   bool startsRow = false;  ///< of a table that has one already
   bool startsCell = false;
+  bool startsParagraph = false;     ///< in a cell or outside of tables
   std::optional<TablePlace> place;  ///< nothing outside of tables
 };
 
@@ -36,6 +37,8 @@ class TableWalk {
   TableStep Next(const std::wstring& text, const CRTFContext& context);
 
  private:
+  /// All but the beginnings of paragraphs.
+  TableStep FindStep(const std::wstring& text, const CRTFContext& context);
   /// @param isReset whether a reset of the paragraph says so, and not the end of a group
   void NoteTableEnd(bool isReset);
   /// Whether a run that is in no table stands in a row for all that.
@@ -48,11 +51,8 @@ class TableWalk {
   std::optional<TablePlace> m_last;  // of the last run in the table
   int m_counted = -1;                // the column that the state of that run said
   bool m_cellEnded = false;          // with that run
+  bool m_paragraphEnded = true;      // with the last run
   bool m_rowBegun = false;           // its first cell began with a reset of the paragraph
 };
-
-/// The number or bullet in front of a paragraph with the tab or blank behind it; empty if it is in no list. A bullet
-/// where the document gives its mark too early for the reader, in front of the list's number.
-std::wstring ListMark(const CRTFContext& context);
 
 }  // namespace zebreport

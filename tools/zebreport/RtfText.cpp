@@ -1,5 +1,6 @@
 #include "Failure.h"
 #include "RtfFile.h"
+#include "RtfList.h"
 #include "RtfTable.h"
 #include "RtfViews.h"
 
@@ -14,6 +15,7 @@ class Text final : public CContextChangedHandler {
 
   void OnContextChanged(const wchar_t* text, CRTFContext* context) override {
     const TableStep step = m_table.Next(text, *context);
+    const std::wstring mark = m_marks.Next(text, *context, step.startsParagraph);
     if (step.endsTable) EndLine();
     if (step.ignored) return;
     if (step.startsTable || step.startsRow) {
@@ -21,9 +23,8 @@ class Text final : public CContextChangedHandler {
     } else if (step.startsCell) {
       m_output += L'\t';
     }
-    if (!step.place.has_value() && !m_inLine) m_output += ListMark(*context);
     m_inLine = true;
-    m_output += text;
+    m_output += mark + text;
     if (context->Picture != nullptr) {
       m_output += L"[picture, " + std::to_wstring(context->Picture->GetLength()) + L" bytes]";
     }
@@ -43,6 +44,7 @@ class Text final : public CContextChangedHandler {
  private:
   std::wstring& m_output;
   TableWalk m_table;
+  ListMarks m_marks;
   bool m_inLine = false;
 };
 
