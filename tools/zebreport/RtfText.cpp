@@ -24,6 +24,7 @@ class Text final : public CContextChangedHandler {
       m_output += L'\t';
     }
     m_inLine = true;
+    PartParagraphsOfCell(step, text[0] == L'\0' && context->Picture == nullptr);
     m_output += mark + text;
     if (context->Picture != nullptr) {
       m_output += L"[picture, " + std::to_wstring(context->Picture->GetLength()) + L" bytes]";
@@ -42,10 +43,23 @@ class Text final : public CContextChangedHandler {
   }
 
  private:
+  /// The end of a cell's last paragraph may be followed by that of the cell: so a line ends when the next one has content.
+  void PartParagraphsOfCell(const TableStep& step, bool isEmpty) {
+    if (step.startsCell || !step.place.has_value()) {
+      m_lineEnds = 0;
+    } else if (step.startsParagraph) {
+      ++m_lineEnds;
+    }
+    if (isEmpty) return;
+    m_output.append(m_lineEnds, L'\n');
+    m_lineEnds = 0;
+  }
+
   std::wstring& m_output;
   TableWalk m_table;
   ListMarks m_marks;
   bool m_inLine = false;
+  std::size_t m_lineEnds = 0;  // in the current cell, not yet written
 };
 
 }  // namespace
