@@ -132,7 +132,7 @@ class Page final : public CContextChangedHandler {
  private:
   void OpenParagraph(const CParagraphProperties& props) {
     if (m_inParagraph) return;
-    m_html += L"<p style=\"" + ParagraphStyle(props) + L"\">";
+    m_html += L"<p dir=\"auto\" style=\"" + ParagraphStyle(props) + L"\">";
     m_inParagraph = true;
   }
 
@@ -148,7 +148,7 @@ class Page final : public CContextChangedHandler {
     if (step.startsRow) m_html += L"</td></tr>\n<tr>";
     if (step.startsCell) {
       if (!step.startsRow && !step.startsTable) m_html += L"</td>";
-      m_html += L"<td style=\"" + CellStyle(state, *step.place) + L"\">";
+      m_html += L"<td dir=\"auto\" style=\"" + CellStyle(state, *step.place) + L"\">";
     } else if (step.startsParagraph) {
       m_html += L"<br>";
     }
