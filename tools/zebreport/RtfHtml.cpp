@@ -41,10 +41,9 @@ std::wstring ParagraphStyle(const CParagraphProperties& props) {
   if (props.Justification > 0 && props.Justification < std::size(kJustifications)) {
     style += std::wstring(L"text-align:") + kJustifications[props.Justification] + L";";
   }
-  // Browsers know one distance for all tab stops.
-  if (props.TabCount > 0 && props.Tabs[0].Position > 0) {
-    style += L"tab-size:" + StyleLength(props.Tabs[0].Position) + L";";
-  }
+  // Browsers know one distance for all tab stops, from the left indent on.
+  const int stop = props.TabCount > 0 ? props.Tabs[0].Position - props.LeftIndent : 0;
+  if (stop > 0) style += L"tab-size:" + StyleLength(stop) + L";";
   return style;
 }
 
