@@ -6,6 +6,7 @@
 #include "TextFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace zebreport {
@@ -47,11 +48,19 @@ std::wstring ParagraphStyle(const CParagraphProperties& props) {
   return style;
 }
 
+/// The name as a list of fonts, with a general one where a machine lacks it.
+std::wstring FontFamily(const std::wstring& name) {
+  const bool isFixed =
+      std::ranges::any_of(std::array{L"Mono", L"Courier", L"Consolas"},
+                          [&](const wchar_t* part) { return name.find(part) != std::wstring::npos; });
+  return StyleString(name) + (isFixed ? L",monospace" : L",sans-serif");
+}
+
 std::wstring RunStyle(const CRTFContext& context) {
   const CRTFState& state = *context.State;
   std::wstring style;
   if (context.Font != nullptr && *context.Font->GetFontFaceName() != L'\0') {
-    style += L"font-family:" + StyleString(Beginning(context.Font->GetFontFaceName())) + L",sans-serif;";
+    style += L"font-family:" + FontFamily(Beginning(context.Font->GetFontFaceName())) + L";";
   }
   if (state.CharProps.FontSize > 0) {
     const bool raised = state.CharProps.Superscript != 0 || state.CharProps.Subscript != 0;
