@@ -19,7 +19,8 @@ constexpr const wchar_t* kPageStart =
     L"p { margin: 0; min-height: 1em; }\n"
     L"p, td { white-space: pre-wrap; overflow-wrap: anywhere; tab-size: 36pt; }\n"
     L"table { border-collapse: collapse; margin: 2pt 0; }\n"
-    L"td { border: 1px dotted #aaa; padding: 2pt 4pt; }\n"
+    L".more { margin-top: calc(-2pt - 1px); }\n"
+    L"td { border: 1px dotted #aaa; box-sizing: border-box; padding: 2pt; }\n"
     L"sup, sub { line-height: 0; }\n"
     L".picture { display: inline-block; box-sizing: border-box; min-width: 90pt; border: 1px dashed #888; "
     L"background: #eee; color: #444; font: 9pt sans-serif; padding: 4pt; overflow: hidden; }\n"
@@ -151,15 +152,29 @@ class Page final : public CContextChangedHandler {
 
   void OpenCell(const CRTFState& state, const TableStep& step) {
     EndParagraph();
-    if (!m_inTable) m_html += L"<table><tr>";
-    m_inTable = true;
-    if (step.startsRow) m_html += L"</td></tr>\n<tr>";
+    if (step.startsTable || step.newEdges) {
+      EndTable();
+      OpenTable(step);
+    } else if (step.startsRow) {
+      m_html += L"</td></tr>\n<tr>";
+    }
     if (step.startsCell) {
       if (!step.startsRow && !step.startsTable) m_html += L"</td>";
       m_html += L"<td dir=\"auto\" style=\"" + CellStyle(state, *step.place) + L"\">";
     } else if (step.startsParagraph) {
       m_html += L"<br>";
     }
+  }
+
+  /// Browsers have one set of columns for a table: so rows with other edges are a table of their own.
+  void OpenTable(const TableStep& step) {
+    m_html += L"<table";
+    if (step.newEdges) m_html += L" class=\"more\"";
+    if (step.tableWidth > 0) {
+      m_html += L" style=\"table-layout:fixed;width:" + StyleLength(step.tableWidth) + L";\"";
+    }
+    m_html += L"><tr>";
+    m_inTable = true;
   }
 
   void EndTable() {

@@ -1,5 +1,7 @@
 #include "RtfTable.h"
 
+#include <algorithm>
+
 namespace zebreport {
 
 namespace {
@@ -22,6 +24,11 @@ TablePlace PlaceAt(const CDocumentProperties& props, int column) {
   return place;
 }
 
+TableEdges EdgesOf(const CDocumentProperties& props) {
+  const CRTFTableRow* const row = RowOf(props);
+  return {row, row == nullptr ? 0 : row->Cells.size(), props.RowLeft};
+}
+
 /// Whether there is no cell behind that place.
 bool IsRowFull(const TablePlace& place) {
   const std::size_t count = place.row == nullptr ? 0 : place.row->Cells.size();
@@ -30,10 +37,31 @@ bool IsRowFull(const TablePlace& place) {
 
 }  // namespace
 
+bool TableEdges::operator==(const TableEdges& other) const {
+  if (count != other.count || left != other.left) return false;
+  // A row that is filled again need not be compared with itself. Cells may have been freed with their table.
+  if (row == other.row || count == 0) return true;
+  if (row->Cells.size() != count || other.row->Cells.size() != count) return false;
+  return std::equal(
+      row->Cells.begin(), row->Cells.end(), other.row->Cells.begin(),
+      [](const CRTFTableCell* one, const CRTFTableCell* two) { return one->RightEdge == two->RightEdge; });
+}
+
+int TableEdges::Width() const {
+  if (row == nullptr || row->Cells.empty()) return 0;
+  return std::max(row->Cells.back()->RightEdge - left, 0);
+}
+
 TableStep TableWalk::Next(const std::wstring& text, const CRTFContext& context) {
   const bool paragraphEnded = m_paragraphEnded;
   TableStep step = FindStep(text, context);
   if (step.ignored) return step;
+  if (step.startsTable || step.startsRow) {
+    const TableEdges edges = EdgesOf(context.State->DocProps);
+    step.newEdges = step.startsRow && edges != m_edges;
+    step.tableWidth = edges.Width();
+    m_edges = edges;
+  }
   step.startsParagraph = paragraphEnded || step.startsCell || step.endsTable;
   m_paragraphEnded = context.ParagraphEnd != 0;
   return step;

@@ -2,6 +2,7 @@
 
 #include "ZEBReportDocument.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -15,6 +16,18 @@ struct TablePlace {
   const CRTFTableCell* cell = nullptr;  ///< as it is described, null if it is not
 };
 
+/// The edges of a row's cells.
+struct TableEdges {
+  /// Whether both rows have their edges at the same places.
+  bool operator==(const TableEdges& other) const;
+  /// From the first edge to the last one in twips, 0 if it is not known.
+  int Width() const;
+
+  const CRTFTableRow* row = nullptr;
+  std::size_t count = 0;  ///< cells of the row
+  int left = 0;
+};
+
 /// What a run of text means for the tables and paragraphs of a document.
 struct TableStep {
   bool ignored = false;    ///< says that a table ends and nothing else
@@ -22,6 +35,8 @@ struct TableStep {
   bool startsTable = false;
   bool startsRow = false;  ///< of a table that has one already
   bool startsCell = false;
+  bool newEdges = false;            ///< the row that starts has other edges than the one before
+  int tableWidth = 0;               ///< of the row that starts in twips, 0 if it is not known
   bool startsParagraph = false;     ///< in a cell or outside of tables
   std::optional<TablePlace> place;  ///< nothing outside of tables
 };
@@ -51,6 +66,7 @@ class TableWalk {
   std::optional<TablePlace> m_last;  // of the last run in the table
   int m_counted = -1;                // the column that the state of that run said
   bool m_cellEnded = false;          // with that run
+  TableEdges m_edges;                // of the row that started last
   bool m_paragraphEnded = true;      // with the last run
   bool m_rowBegun = false;           // its first cell began with a reset of the paragraph
 };
