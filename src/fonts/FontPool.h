@@ -16,7 +16,7 @@ class CFontPoolEntry;
 /// the pool owns it and all fonts that refer to it share it.
 ///
 /// No font name leads out of the folder: a character that the name of a file cannot hold stands in it as `%` with its
-/// hexadecimal number; so does a `%` in front of two hexadecimal digits.
+/// hexadecimal number.
 class ZEB_EXPORT CFontPool {
  public:
   /// The pool of the process, made at the first call.

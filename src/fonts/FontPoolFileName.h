@@ -6,7 +6,7 @@
 namespace zeb {
 
 /// The name of a font's file in the pool: the font name as it stands, but for characters that the name of a file cannot
-/// hold, and `.fd`. It leads into no other folder, and no two fonts have the same.
+/// hold, and `.fd`. It leads into no other folder.
 std::wstring FontPoolFileName(std::wstring_view fontName);
 
 /// Whether a file of the pool's folder counts as the file of a font.

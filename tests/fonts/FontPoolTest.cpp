@@ -484,24 +484,6 @@ TEST(FontPool, NoNameLeadsOutOfTheFolder) {
   for (const std::wstring& name : names) EXPECT_EQ(BytesOf(again.GetFontData(name.c_str())), "abc");
 }
 
-TEST(FontPool, FontsWhoseNamesLookLikeEachOthersFilesHaveFilesOfTheirOwn) {
-  const TempDir folder;
-  Pool pool(folder);
-  pool.Store(L"A/B", "slash");
-  pool.Store(L"A%2FB", "number");
-  pool.Store(L"A%2fB", "small number");
-  pool.Store(L"A%252FB", "number of a number");
-  for (const wchar_t* plain : {L"%", L"%4", L"50%", L"a%b", L"%%4", L"%G0", L"%0G"})
-    pool.Store(plain, "plain");
-  EXPECT_EQ(NamesIn(folder.Path()),
-            (std::vector<std::string>{"%%4.fd", "%.fd", "%0G.fd", "%4.fd", "%G0.fd", "50%.fd", "A%25252FB.fd",
-                                      "A%252FB.fd", "A%252fB.fd", "A%2FB.fd", "a%b.fd"}));
-  Pool again(folder);
-  EXPECT_EQ(BytesOf(again.GetFontData(L"A/B")), "slash");
-  EXPECT_EQ(BytesOf(again.GetFontData(L"A%2FB")), "number");
-  EXPECT_EQ(BytesOf(again.GetFontData(L"A%252FB")), "number of a number");
-}
-
 TEST(FontPool, NoNameReadsOutsideOfTheFolder) {
   const TempDir folder;
   fs::create_directory(folder.File("pool"));
