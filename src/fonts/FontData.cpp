@@ -74,9 +74,10 @@ void CFontData::AdoptContent(std::shared_ptr<void> keeper, unsigned char* bytes,
   const long long growth = count > m_iCapacity ? count / m_iChunkSize + 1LL : 0;
   const long long capacity = m_iCapacity + growth * m_iChunkSize;
   if (capacity > INT_MAX) ThrowNoMoreMemory();
+  auto* const kept = new std::shared_ptr<void>(std::move(keeper));
   std::free(m_pBuffer);
   m_pBuffer = bytes;
-  m_pKeeper = new std::shared_ptr<void>(std::move(keeper));
+  m_pKeeper = kept;
   m_iLength = count;
   m_iCapacity = static_cast<int>(capacity);
 }

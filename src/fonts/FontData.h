@@ -110,7 +110,7 @@ class ZEB_EXPORT CFontData {
   /// (pos + count) / chunk + 1 chunks.
   void ReAllocFontDataPos(int pos, int count);
 
-  unsigned char* m_pBuffer;  // owned, shared by copies
+  unsigned char* m_pBuffer;  // owned, shared by copies; not from malloc if it has a keeper
   int m_iLength;
   int m_iCapacity;
   int m_iChunkSize;

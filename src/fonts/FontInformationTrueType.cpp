@@ -43,6 +43,8 @@ CTrueTypeFontMetrics& CFontInformation::UseTrueTypeMetrics() {
 
 void CFontInformation::ReadTT(const wchar_t* faceName, const wchar_t* filePath, const wchar_t* encoding,
                               bool unicode, bool reuseData, int bold, bool italic) {
+  // Made first, so that nothing changes if there is no memory for them.
+  if (m_pTrueTypeMetrics == nullptr) m_pTrueTypeMetrics = new CTrueTypeFontMetrics();
   // The face may be named by the PostScript metrics that end here.
   const std::unique_ptr<CPostscriptFontMetrics> before(std::exchange(m_pPostscriptMetrics, nullptr));
   // They are gone also if the font is refused, so the others become current before that.
