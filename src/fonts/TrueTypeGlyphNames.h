@@ -23,6 +23,8 @@ class TrueTypeGlyphNames {
 
   /// Makes the text of all names.
   void MakeText();
+  /// Lets the bytes of the table go. Glyphs have no names from then on.
+  void ForgetBytes() { m_Indexes = m_Strings = ByteReader(); }
   /// Empty for a glyph without a name. Lives as long as this object.
   const wchar_t* NameOf(int glyph);
   /// The number of the name in version 2; 0 if there is none.

@@ -119,6 +119,9 @@ bool TrueTypeGlyphs::IsEmpty(int glyph) const {
 void TrueTypeGlyphs::MakeAll() {
   m_Names.MakeText();
   for (int glyph = 0; glyph < m_iCount; ++glyph) RecordAt(glyph).GetGlyphName();
+  // Nobody reads them any more.
+  m_HMtx = m_Loca = m_Glyf = ByteReader();
+  m_Names.ForgetBytes();
 }
 
 std::vector<unsigned short> TrueTypeGlyphs::CodesOf(int glyph) {

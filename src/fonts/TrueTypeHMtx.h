@@ -10,7 +10,7 @@ class TrueTypeReader;
 }  // namespace zeb
 
 /// What is known of one glyph of a TrueType font, from all of its tables. A record of a font lives as long as its table, and
-/// so do copies of it.
+/// a copy of it may be used as long.
 class ZEB_EXPORT CTrueTypeHMtxEntry {
  public:
   /// In font units.
@@ -22,7 +22,8 @@ class ZEB_EXPORT CTrueTypeHMtxEntry {
   /// From `post`; empty if the table has no names.
   const wchar_t* GetGlyphName() const;
   /// Sets the name without copying it: it has to live as long as the entry.
-  void SetGlyphName(const wchar_t* name) { m_pGlyphName = name; }
+  /// @param name null counts as empty
+  void SetGlyphName(const wchar_t* name) { m_pGlyphName = name != nullptr ? name : L""; }
   /// The index of the name in `post` format 2.
   unsigned short GetNameIndex() const { return m_usNameIndex; }
   void SetNameIndex(unsigned short index) { m_usNameIndex = index; }

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 namespace zeb {
@@ -59,6 +60,11 @@ bool LocateTable(const ByteReader& bytes, CTrueTypeFile& file, const char* tag,
   });
 }
 
+bool Overlap(const CTrueTypeDirEnt& one, const CTrueTypeDirEnt& other) {
+  return one.GetOffset() < std::uint64_t{other.GetOffset()} + other.GetLength() &&
+         other.GetOffset() < std::uint64_t{one.GetOffset()} + one.GetLength();
+}
+
 }  // namespace
 
 TrueTypeReader::TrueTypeReader(CTrueTypeFontMetrics& metrics, const TrueTypeRequest& request)
@@ -86,10 +92,11 @@ TrueTypeStatus TrueTypeReader::Read() {
 }
 
 void TrueTypeReader::KeepGlyphs() const {
-  if (const auto* const keeper = m_metrics.m_pFontData->m_pKeeper) {
+  const auto* const keeper = m_metrics.m_pFontData->m_pKeeper;
+  if (keeper != nullptr && !Overlap(*m_pFile->FindDirEnt("glyf"), *m_pFile->FindDirEnt("loca"))) {
     m_pGlyphs->KeepBytes(*keeper);
   } else {
-    // The font data may go or change while the parsed file stays.
+    // The font data may go or change while the parsed file stays. A subset changes glyphs while it looks for them.
     m_pGlyphs->MakeAll();
   }
 }

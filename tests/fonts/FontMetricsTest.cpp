@@ -387,6 +387,29 @@ TEST(FontMetrics, TheDataThatItHasAlreadyIsNotDeleted) {
   EXPECT_FALSE(deleted);
 }
 
+TEST(FontMetrics, NamesThatWereSetSinglyEndWithTheNextEncoding) {
+  const auto metrics = Make();
+  for (const bool centralEuropean : {false, true}) {
+    metrics->SetCharNameAt(65, L"own");
+    EXPECT_STREQ(metrics->GetCharNameAt(65), L"own");
+    centralEuropean ? metrics->SetCP1250Encoding() : metrics->SetWinAnsiEncoding();
+    EXPECT_STREQ(metrics->GetCharNameAt(65), L"A");
+  }
+}
+
+TEST(FontMetrics, NamesOfCopiesAreTheirOwn) {
+  CFontData data(false);
+  const auto source = Make();
+  source->SetFontData(&data, false);
+  source->SetCharNameAt(65, L"own");
+  CFontMetrics copy(*source);
+  EXPECT_STREQ(copy.GetCharNameAt(65), L"own");
+  copy.SetCharNameAt(65, L"x");
+  EXPECT_STREQ(source->GetCharNameAt(65), L"own");
+  source->SetCharNameAt(65, source->GetCharNameAt(65));
+  EXPECT_STREQ(source->GetCharNameAt(65), L"own");
+}
+
 TEST(FontMetrics, FixedCopiesShareTheData) {
   CFontData data(false);
   const auto source = Make();

@@ -1,6 +1,7 @@
 #include "fonts/FontData.h"
 #include "fonts/TrueTypeFont.h"
 #include "fonts/TrueTypeFontMetrics.h"
+#include "fonts/TrueTypeHMtx.h"
 #include "fonts/TrueTypeReader.h"
 #include "fonts/TrueTypeStatus.h"
 #include "support/ScopedFontPool.h"
@@ -93,6 +94,33 @@ TEST(FontReuse, ThePoolReadsItsFileOnceForAllFontsOfThatName) {
     EXPECT_EQ(SubsetOf(metrics, code), FreshSubset(code));
   }
   EXPECT_EQ(Contents(*data), program);
+}
+
+TEST(FontReuse, GlyphsStayWhenTheProgramGoes) {
+  TrueTypeFont font(TrueTypeBuilder(), {.unicode = true});
+  const TrueTypeFont wanted(TrueTypeBuilder(), {.unicode = true});
+  font.Metrics().SetFontData(new CFontData(false), true);
+  const CTrueTypeHMtxEntry& entry = *font.File().GetTabHMtx()->GetEntryAt(3);
+  const CTrueTypeHMtxEntry& expected = *wanted.File().GetTabHMtx()->GetEntryAt(3);
+  EXPECT_EQ(entry.GetAdvanceWidth(), expected.GetAdvanceWidth());
+  EXPECT_EQ(entry.GetCodes(), (std::vector<unsigned short>{0x41}));
+  EXPECT_STREQ(entry.GetGlyphName(), expected.GetGlyphName());
+  EXPECT_EQ(entry.GetXMax(), expected.GetXMax());
+  EXPECT_EQ(entry.GetGlyphOffset(), expected.GetGlyphOffset());
+}
+
+TEST(FontReuse, GlyphsStayWhenThePoolGoes) {
+  const ScopedFontPool pool;
+  StoreInPool(pool);
+  CTrueTypeFontMetrics metrics;
+  metrics.SetFontData(pool->GetFontData(L"Probe Regular"), false);
+  ASSERT_TRUE(ParseInPlace(metrics, L"Probe Regular"));
+  pool->DeleteFontPool();
+  EXPECT_EQ(metrics.GetWidthOfUsedGlyph(0), 488);
+  CTrueTypeHMtxEntry& entry = *metrics.GetTTFile()->GetTabHMtx()->GetEntryAt(3);
+  EXPECT_EQ(entry.GetCodes(), (std::vector<unsigned short>{0x41}));
+  entry.SetGlyphName(nullptr);
+  EXPECT_STREQ(entry.GetGlyphName(), L"");
 }
 
 TEST(FontReuse, FontsThatShareAProgramAreSubsetByTurns) {

@@ -124,6 +124,24 @@ TEST_F(MappedFonts, AreWholeAgainBehindASubset) {
   EXPECT_EQ(Contents(source), zebtest::ReadBytes(kSystemFont));
 }
 
+TEST_F(MappedFonts, AreParsedAgainWhereTheyAre) {
+  m_mapped->ReadAgain(L"DejaVu Sans", kUnicode);
+  ASSERT_EQ(m_mapped->Failure(), L"");
+  m_mapped->Metrics().SetFontData(new CFontData(false), true);
+  ExpectSameEntry(Entry(36), Wanted(36));
+}
+
+TEST_F(MappedFonts, GrowBetweenTwoSubsets) {
+  CFontMetrics& metrics = m_mapped->Metrics();
+  CFontData& source = *metrics.GetFontData();
+  metrics.MapChar(0xC4);
+  metrics.CreateSubsetFont();
+  const std::vector<unsigned char> first = Contents(*metrics.GetFontData());
+  source.WriteUIntAtPos(source.GetLength() + 500'000, 1);
+  metrics.CreateSubsetFont();
+  EXPECT_EQ(Contents(*metrics.GetFontData()), first);
+}
+
 TEST_F(MappedFonts, AreCopiedIntoABlockThatIsNotNew) {
   TrueTypeFont font;
   font.ReadFile(WidePath(kSystemFont), kUnicode);
