@@ -57,7 +57,7 @@ std::wstring FontFamily(const std::wstring& name) {
   return StyleString(name) + (isFixed ? L",monospace" : L",sans-serif");
 }
 
-std::wstring RunStyle(const CRTFContext& context) {
+std::wstring FontStyle(const CRTFContext& context) {
   const CRTFState& state = *context.State;
   std::wstring style;
   if (context.Font != nullptr && *context.Font->GetFontFaceName() != L'\0') {
@@ -67,6 +67,12 @@ std::wstring RunStyle(const CRTFContext& context) {
     const bool raised = state.CharProps.Superscript != 0 || state.CharProps.Subscript != 0;
     style += L"font-size:" + StyleLength(state.CharProps.FontSize * (raised ? 7 : 10)) + L";";
   }
+  return style;
+}
+
+std::wstring RunStyle(const CRTFContext& context) {
+  const CRTFState& state = *context.State;
+  std::wstring style = FontStyle(context);
   if (state.CharProps.Bold != 0) style += L"font-weight:bold;";
   if (state.CharProps.Italic != 0) style += L"font-style:italic;";
   if (state.CharProps.Underline != 0) style += L"text-decoration:underline;";
@@ -85,6 +91,12 @@ std::wstring Run(const std::wstring& text, const CRTFContext& context) {
   if (props.Superscript != 0) return L"<sup>" + html + L"</sup>";
   if (props.Subscript != 0) return L"<sub>" + html + L"</sub>";
   return html;
+}
+
+/// A number or bullet in the font of what stands behind it.
+std::wstring Mark(const std::wstring& mark, const CRTFContext& context) {
+  if (mark.empty()) return {};
+  return L"<span style=\"" + FontStyle(context) + L"\">" + EscapedHtml(mark) + L"</span>";
 }
 
 std::wstring CellStyle(const CRTFState& state, const TablePlace& place) {
@@ -122,7 +134,7 @@ class Page final : public CContextChangedHandler {
     } else {
       OpenParagraph(context->State->ParProps);
     }
-    m_html += EscapedHtml(mark) + Run(text, *context);
+    m_html += Mark(mark, *context) + Run(text, *context);
     if (context->Picture != nullptr) m_html += HtmlPicture(*context->Picture, context->State->CharProps);
     if (context->LineBreak != 0) m_html += L"<br>";
     if (context->ParagraphEnd != 0 && !step.place.has_value()) EndParagraph();
