@@ -143,6 +143,4 @@ const wchar_t* CFontMetrics::GetCharNameAt(int code) const {
   return own != m_OwnCharNames.end() ? own->second.c_str() : m_rgpCharNames[static_cast<std::size_t>(code)];
 }
 
-void CFontMetrics::SetCharNameAt(int code, const wchar_t* name) {
-  m_OwnCharNames[code] = name;
-}
+void CFontMetrics::SetCharNameAt(int code, const wchar_t* name) { m_OwnCharNames[code] = name; }
