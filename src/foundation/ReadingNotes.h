@@ -60,6 +60,7 @@ struct ReadingNotes {
   std::unordered_map<const zebxmln::CXMLNode*, WalkedRecord> Records;
   std::unordered_map<const zebxmln::CXMLNode*, IdentifierNote> Identifiers;
   std::set<int> RecordIDs;                                // of the objects whose records were read
+  std::set<int> DefinedFormulas;                          // the identifiers of formulas that zones define
   std::map<int, const zebxmln::CXMLNode*> LoadedRecords;  // by the identifiers with which they begin
 
   const ReadElement* Find(const zebxmln::CXMLNode* node) const {

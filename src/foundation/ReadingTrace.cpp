@@ -108,11 +108,12 @@ void ReadingTrace::NoteLoadedRecord(const CXMLNode& record, int id) {
   if (!IsListenedTo(record)) return;
   const auto [first, isNew] = m_Notes.LoadedRecords.emplace(id, &record);
   if (isNew) return;
+  if (m_Notes.DefinedFormulas.contains(id)) return;  // saved once for each list that names it
   const XMLPosition place = XMLTree::PositionOf(*first->second);
   AddIdentifierNote(&record, {ReadingFault::SecondOccurrence,
                               std::wstring(XMLTree::NameOf(*first->second).Wide) + L" in line " +
                                   std::to_wstring(place.Line) + L" has the identifier " +
-                                  std::to_wstring(id) + L" too, and what this one says replaces it",
+                                  std::to_wstring(id) + L" too, and both are read into one object",
                               std::nullopt});
 }
 

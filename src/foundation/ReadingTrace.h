@@ -63,6 +63,8 @@ class ReadingTrace {
 
   /// A record has this identifier for its own.
   void NoteRecord(int id) { m_Notes.RecordIDs.insert(id); }
+  /// A zone defines the formula of this identifier. A file has its record once for each list that names it.
+  void NoteDefinedFormula(int id) { m_Notes.DefinedFormulas.insert(id); }
   /// A record was read into the object of its identifier.
   void NoteLoadedRecord(const zebxmln::CXMLNode& record, int id);
   /// A record was left out because no object of its class has its identifier.

@@ -1,4 +1,5 @@
 #include "foundation/IDManager.h"
+#include "foundation/ReadingTrace.h"
 #include "foundation/RecordReader.h"
 #include "foundation/RecordWriter.h"
 #include "model/CopyValueHolder.h"
@@ -144,6 +145,7 @@ class zeb::ZoneReader {
     auto* formula = FindOrMakeObject<CFormulaValueHolder>(m_Binding, id);
     m_Binding.NoteNamedByRelation(static_cast<CPlaceable*>(formula), kPlaceableTag);
     m_Zone.AddDefinedFormulaValueHolder(formula);
+    if (ReadingTrace* trace = ReadingTrace::Active()) trace->NoteDefinedFormula(id);
   }
 
   /// Reads the references of one name and gives each object that has no owner yet to `add`.

@@ -361,9 +361,9 @@ TEST_F(FileCheck, TwoRecordsOfOneIdentifier) {
   <PlRel><PlRelID>7</PlRelID><TxID>5</TxID></PlRel>
 </ReportRootElement>)"),
       ElementsAre(Finding{6, 3, L"/ReportRootElement/Text[2]", Fault::SecondOccurrence,
-                          L"Text in line 5 has the identifier 5 too, and what this one says replaces it"},
+                          L"Text in line 5 has the identifier 5 too, and both are read into one object"},
                   Finding{8, 3, L"/ReportRootElement/PlRel[2]", Fault::SecondOccurrence,
-                          L"PlRel in line 7 has the identifier 7 too, and what this one says replaces it"}));
+                          L"PlRel in line 7 has the identifier 7 too, and both are read into one object"}));
 }
 
 TEST_F(FileCheck, TwoTiesOfOneIdentifierOnAPage) {
@@ -379,7 +379,7 @@ TEST_F(FileCheck, TwoTiesOfOneIdentifierOnAPage) {
   </LayoutPage>
 </ReportLayout>)"),
       ElementsAre(Finding{7, 5, L"/ReportLayout/LayoutPage/PlRel[2]", Fault::SecondOccurrence,
-                          L"PlRel in line 6 has the identifier 2 too, and what this one says replaces it"}));
+                          L"PlRel in line 6 has the identifier 2 too, and both are read into one object"}));
 }
 
 // A name of 61 characters stands as 60 and an ellipsis, one of 60 as it is. The full names are those that count: both
@@ -596,6 +596,38 @@ TEST_F(FileCheck, SaysNothingOfTiesOfDefinedFormulas) {
   }
   EXPECT_THAT(zebtest::ReadFile(m_Folder.File("report.xml")), testing::HasSubstr("<PlRelID>"));
   EXPECT_THAT(zebreport::CheckFile(file).findings, IsEmpty());
+}
+
+// A formula that is placed and defined, or defined more than once, is saved once for each list that names it.
+TEST_F(FileCheck, SaysNothingOfSavedFormulasThatSeveralListsName) {
+  const std::string placedAndDefined =
+      "<ReportDocument><ZoneID>1</ZoneID></ReportDocument>"
+      "<ReportZone><ZoneID>1</ZoneID><FormulaVHID>5</FormulaVHID>"
+      "<DefinedFormulaVHID>5</DefinedFormulaVHID></ReportZone>";
+  const std::string definedInTwoZones =
+      "<ReportDocument><ZoneID>1</ZoneID><ZoneID>2</ZoneID></ReportDocument>"
+      "<ReportZone><ZoneID>1</ZoneID><DefinedFormulaVHID>5</DefinedFormulaVHID></ReportZone>"
+      "<ReportZone><ZoneID>2</ZoneID><DefinedFormulaVHID>5</DefinedFormulaVHID></ReportZone>";
+  const std::string listedTwice =
+      "<ReportDocument><ZoneID>1</ZoneID></ReportDocument>"
+      "<ReportZone><ZoneID>1</ZoneID><DefinedFormulaVHID>5</DefinedFormulaVHID>"
+      "<DefinedFormulaVHID>5</DefinedFormulaVHID></ReportZone>";
+  for (const std::string& zones : {placedAndDefined, definedInTwoZones, listedTwice}) {
+    SCOPED_TRACE(zones);
+    zebtest::WriteFile(
+        m_Folder.File("file.xml"),
+        "<ReportRootElement>" + zones +
+            "<FormulaValueHolder><ValueHolder><VHID>5</VHID></ValueHolder></FormulaValueHolder>"
+            "</ReportRootElement>");
+    {
+      zebreport::LoadedReport loaded;
+      loaded.LoadExactly(m_Folder.File("file.xml"), {});
+      loaded.Root().SaveReport(m_Folder.WideFile("copy.xml").c_str(), nullptr);
+    }
+    const std::string copy = zebtest::ReadFile(m_Folder.File("copy.xml"));
+    EXPECT_NE(copy.find("<FormulaValueHolder>"), copy.rfind("<FormulaValueHolder>"));
+    EXPECT_THAT(zebreport::CheckFile(m_Folder.WideFile("copy.xml")).findings, IsEmpty());
+  }
 }
 
 // A copy keeps the reference of a tie, not the object that it made for it: the reference leads nowhere.
