@@ -161,6 +161,8 @@ class zeb::ZoneReader {
   void ReadCell(int cellID) {
     auto* cell = FindOrMakeObject<CTableCell>(m_Binding, cellID);
     const bool isNew = m_Binding.Own(cell);
+    ReadingTrace* trace = ReadingTrace::Active();
+    if (!isNew && trace != nullptr) trace->NoteSecondReference(cellID);
     int id = 0;
     while (true) {
       if (const ValueHolderKind* kind = KindAt(m_Reader)) {

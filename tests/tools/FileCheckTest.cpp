@@ -366,6 +366,19 @@ TEST_F(FileCheck, TwoRecordsOfOneIdentifier) {
                           L"PlRel in line 7 has the identifier 7 too, and both are read into one object"}));
 }
 
+TEST_F(FileCheck, OneCellInTwoZones) {
+  EXPECT_THAT(
+      Check(R"(
+<ReportRootElement>
+  <ReportDocument><ZoneID>1</ZoneID><ZoneID>2</ZoneID></ReportDocument>
+  <ReportZone><ZoneID>1</ZoneID><TableCellID>5</TableCellID></ReportZone>
+  <ReportZone><ZoneID>2</ZoneID><TableCellID>5</TableCellID></ReportZone>
+  <TableCell><TableCellID>5</TableCellID></TableCell>
+</ReportRootElement>)"),
+      ElementsAre(Finding{4, 33, L"/ReportRootElement/ReportZone[2]/TableCellID", Fault::SecondOccurrence,
+                          L"the object with the identifier 5 is in a list already"}));
+}
+
 TEST_F(FileCheck, TwoTiesOfOneIdentifierOnAPage) {
   EXPECT_THAT(
       Check(R"(
