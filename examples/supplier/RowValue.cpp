@@ -10,11 +10,20 @@ void CollectCondition(CReportZone& zone, const CPlaceable& object) {
   }
 }
 
-/// Adds to the zone's formula keys what a loading leaves out: the keys that formulas read which are only defined, and
-/// the conditions of table cells and of what is in them.
+/// Whether a formula's round key has to be supplied: it may have none, and seven stand for their numbers of decimals.
+bool IsSupplied(const std::wstring& roundKey) {
+  const bool isNumber = roundKey.size() == 7 && roundKey.starts_with(L"PL.Nks") && roundKey.back() >= L'0' &&
+                        roundKey.back() <= L'6';
+  return !roundKey.empty() && !isNumber;
+}
+
+/// Adds to the zone's formula keys what a loading leaves out: the keys that formulas which are only defined and their
+/// conditions read, and the conditions of table cells and of what is in them.
 void CollectLeftOut(CReportZone& zone) {
   for (int i = 0; i < zone.GetDefinedFormulaValueHoldersCount(); ++i) {
-    zone.CollectFormulaVariables(zone.GetDefinedFormulaValueHolderAt(i)->GetFormula());
+    const CFormulaValueHolder& formula = *zone.GetDefinedFormulaValueHolderAt(i);
+    zone.CollectFormulaVariables(formula.GetFormula());
+    CollectCondition(zone, formula);
   }
   for (int i = 0; i < zone.GetTableCellCount(); ++i) {
     const CTableCell& cell = *zone.GetTableCellAt(i);
@@ -60,7 +69,8 @@ void RowSupplier::OfferTo(CReportValueHolders& report, const std::set<std::wstri
     }
     CollectLeftOut(zone);
     for (int j = 0; j < zone.GetDefinedFormulaValueHoldersCount(); ++j) {
-      Offer(zone, zone.GetDefinedFormulaValueHolderAt(j)->GetRoundVHKey());
+      const std::wstring roundKey = zone.GetDefinedFormulaValueHolderAt(j)->GetRoundVHKey();
+      if (IsSupplied(roundKey)) Offer(zone, roundKey);
     }
     for (int j = 0; j < report.GetReportZoneFormulaValueHolderKeyCount(i); ++j) {
       Offer(zone, report.GetReportZoneFormulaValueHolderKeyAt(i, j));

@@ -294,6 +294,37 @@ TEST(Supplier, OffersWhatConditionsOfCellsRead) {
   EXPECT_TRUE(IsVisible(zone, L"ZeigeZelle > 0"));
 }
 
+// Nor are those of the conditions of formulas that no zone shows; round keys that need no value are not asked for.
+TEST(Supplier, OffersWhatDefinedFormulasNeedAndNoMore) {
+  const supplier::ReportData data;
+  supplier::RowSupplier rows(data);
+  const std::unique_ptr<CFormulaValueHolder> formula = std::make_unique<CFormulaValueHolder>();
+  const std::unique_ptr<CFormulaValueHolder> rounded = std::make_unique<CFormulaValueHolder>();
+  const zebtest::TempDir dir;
+  zebtest::WriteFile(dir.File("report.xml"),
+                     "<ReportRootElement><ReportDocument><ZoneID>1</ZoneID></ReportDocument>"
+                     "<ReportZone><ZoneID>1</ZoneID></ReportZone></ReportRootElement>");
+  CReportValueHolders report;
+  report.LoadReport(dir.WideFile("report.xml").c_str(), dir.WidePath().c_str(), L"");
+  CReportZone& zone = *report.GetRootElement()->GetReportDocument()->GetReportZoneAt(0);
+  auto* condition = new CCondition;
+  condition->SetFormula(L"Zeige > 0");
+  formula->SetCondition(condition);
+  formula->SetFormula(L"Menge");
+  rounded->SetFormula(L"Menge");
+  rounded->SetRoundVHKey(L"PL.Nks6");
+  zone.AddDefinedFormulaValueHolder(formula.get());
+  zone.AddDefinedFormulaValueHolder(rounded.get());
+  rows.OfferTo(report, {});
+  EXPECT_NE(zone.GetAvailableValueHolder(L"Menge"), nullptr);
+  EXPECT_NE(zone.GetAvailableValueHolder(L"Zeige"), nullptr);
+  EXPECT_EQ(zone.GetAvailableValueHolder(L""), nullptr);
+  EXPECT_EQ(zone.GetAvailableValueHolder(L"PL.Nks6"), nullptr);
+  rounded->SetRoundVHKey(L"PL.Nks7");
+  rows.OfferTo(report, {});
+  EXPECT_NE(zone.GetAvailableValueHolder(L"PL.Nks7"), nullptr);
+}
+
 TEST(Supplier, GivesTheSameAtASecondRun) {
   supplier::ReportRun run(kInvoice, ZEB_SHARE);
   run.Print();
