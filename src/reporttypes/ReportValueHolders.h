@@ -27,7 +27,8 @@ class ZEB_EXPORT CReportValueHolders {
   /// @param reportFile path of the report file
   /// @param fontPoolPath folder of the font pool, for the whole process
   /// @param exceptionPath folder of the error catalogue, for the whole process
-  /// @throws CKXXMLException the file is missing or malformed
+  /// @throws CKXXMLException the file is missing or malformed, or the font pool cannot write the file of a font from the
+  ///   operating system
   /// @throws CKXException of the key "FontPoolIncomplete": the program of a font is nowhere; "IncorrectTrueTypeFile" or
   ///   any other key of reading a font or a picture. After a failure of either kind no question may be asked before a
   ///   load succeeds
