@@ -3,6 +3,8 @@
 #include "TextFormat.h"
 
 #include <algorithm>
+#include <set>
+#include <string>
 
 namespace zebreport {
 
@@ -43,10 +45,9 @@ FormulaVariables FindVariables(const std::wstring& formula) {
     variables.failure = L"the error catalogue that says why is missing";
     return variables;
   }
+  std::set<std::wstring> known;
   for (const std::wstring& name : parser.GetVariable()) {
-    if (std::find(variables.names.begin(), variables.names.end(), name) == variables.names.end()) {
-      variables.names.push_back(name);
-    }
+    if (known.insert(name).second) variables.names.push_back(name);
   }
   return variables;
 }

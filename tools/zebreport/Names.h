@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 
 namespace zebreport {
 
@@ -14,7 +15,12 @@ std::wstring KindOf(const CPlaceable& object);
 /// Objects of one zone or page that would have the same name are counted: `text "x" (2)`.
 class Names {
  public:
+  /// How a key or the name of a zone is shown.
+  using Shape = std::wstring (*)(const std::wstring& name);
+
   explicit Names(const CReportRootElement& report);
+  /// @param shape makes long names short
+  Names(const CReportRootElement& report, Shape shape);
 
   /// The object's name as seen from the zone or page `place`; objects of another one say where they are.
   std::wstring Of(const CPlaceable* object, const std::wstring& place) const;
@@ -24,19 +30,24 @@ class Names {
   static std::wstring OfPage(int index);
 
  private:
+  /// A zone or page: its whole name, and how it is shown.
+  using Place = std::pair<const std::wstring, std::wstring>;
+
   struct Entry {
     std::wstring name;
-    std::wstring place;
+    const Place* place;  // observer: in m_places
   };
 
   void AddZone(CReportZone& zone);
   void AddPage(CLayoutPage& page, int index);
-  void Add(const CPlaceable* object, const std::wstring& place);
-  void AddCell(CTableCell* cell, const std::wstring& place);
+  void Add(const CPlaceable* object, const Place& place);
+  void AddCell(CTableCell* cell, const Place& place);
 
+  Shape m_shape;
+  std::map<std::wstring, std::wstring> m_places;
   std::map<const CPlaceable*, Entry> m_entries;
   /// How often a name was given in a place.
-  std::map<std::wstring, int> m_used;
+  std::map<std::pair<const Place*, std::wstring>, int> m_used;
 };
 
 }  // namespace zebreport

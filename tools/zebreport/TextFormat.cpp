@@ -10,6 +10,7 @@ namespace zebreport {
 namespace {
 
 constexpr std::size_t kShortLength = 40;
+constexpr std::size_t kLongestCutName = 60;
 constexpr std::size_t kLongestBeginning = 255;
 constexpr int kDecimals = 6;
 
@@ -67,6 +68,10 @@ std::wstring QuotedIfNeeded(const std::wstring& text) {
   return isPlain ? text : Quoted(text);
 }
 
+std::wstring CutName(const std::wstring& name) {
+  return name.size() <= kLongestCutName ? name : name.substr(0, kLongestCutName) + L'\x2026';
+}
+
 std::wstring Beginning(const wchar_t* text) { return {text, wcsnlen(text, kLongestBeginning)}; }
 
 std::wstring QuotedShort(const std::wstring& text) {
@@ -83,7 +88,9 @@ std::wstring Joined(const std::vector<std::wstring>& parts) {
 }
 
 std::wstring JoinedNames(std::vector<std::wstring> names) {
-  std::transform(names.begin(), names.end(), names.begin(), QuotedIfNeeded);
+  for (std::wstring& name : names) {
+    name = name.find(L',') == std::wstring::npos ? QuotedIfNeeded(name) : Quoted(name);
+  }
   return Joined(names);
 }
 

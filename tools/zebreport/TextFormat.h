@@ -19,6 +19,9 @@ std::wstring Quoted(const std::wstring& text);
 /// ends, with line ends, tabs or quotes.
 std::wstring QuotedIfNeeded(const std::wstring& text);
 
+/// The name with an ellipsis for what is behind its first 60 characters, for findings, which repeat names.
+std::wstring CutName(const std::wstring& name);
+
 /// As Quoted, but cut to a length that fits beside other words, with three points at the end.
 std::wstring QuotedShort(const std::wstring& text);
 
@@ -28,7 +31,7 @@ std::wstring Beginning(const wchar_t* text);
 /// The parts with ", " between them.
 std::wstring Joined(const std::vector<std::wstring>& parts);
 
-/// The names with ", " between them, each as QuotedIfNeeded does it.
+/// The names with ", " between them, each as QuotedIfNeeded does it, and in quotes too if it holds a comma.
 std::wstring JoinedNames(std::vector<std::wstring> names);
 
 /// Collects lines, indented by two spaces per level.

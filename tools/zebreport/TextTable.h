@@ -6,6 +6,7 @@
 namespace zebreport {
 
 /// A table as lines of text: columns of equal width as terminals show it, parted by two spaces, with their titles above.
+/// No column is wider than 200; longer cells stand out, so that output grows with the input and not with its square.
 class TextTable {
  public:
   explicit TextTable(std::vector<std::wstring> titles);

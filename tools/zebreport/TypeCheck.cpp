@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <vector>
 
@@ -21,17 +22,21 @@ using Keys = std::set<std::wstring>;
 
 constexpr int kSomethingNotOffered = 1;
 
+std::wstring Shown(const std::wstring& name) { return QuotedIfNeeded(CutName(name)); }
+
 /// One thing that the report type does not offer.
 struct Finding {
-  std::wstring zone;     ///< internal name; empty if the whole report is meant
+  std::wstring zone;     ///< internal name, cut; empty if the whole report is meant
   std::wstring subject;  ///< the object, with its kind; empty if the zone or the whole report is meant
   std::wstring text;     ///< what is wrong, and what to do
 };
 
-/// Calls `visit` for every object of a zone: those that it places, those in its cells and the formulas that it defines.
+/// Calls `visit` once for every object of a zone: those that it places, those in its cells and the formulas that it
+/// defines.
 void VisitObjects(CReportZone& zone, const std::function<void(const CPlaceable&)>& visit) {
+  std::set<const CPlaceable*> visited;  // a formula may be placed and defined
   const auto visitOne = [&](const CPlaceable* object) {
-    if (object != nullptr) visit(*object);
+    if (object != nullptr && visited.insert(object).second) visit(*object);
   };
   for (int i = 0; i < zone.GetTextElementCount(); ++i) visitOne(zone.GetTextElementAt(i));
   for (int i = 0; i < zone.GetValueHolderCount(); ++i) visitOne(zone.GetValueHolderAt(i));
@@ -59,32 +64,32 @@ class Offer {
   bool HasZone(const std::wstring& zone) const { return m_zones.contains(zone); }
   bool Has(const std::wstring& zone, const std::wstring& key) const {
     const auto found = m_zones.find(zone);
-    return found != m_zones.end() && found->second.contains(key);
+    return found != m_zones.end() && found->second->contains(key);
   }
   bool HasAnywhere(const std::wstring& key) const { return m_anywhere.contains(key); }
 
  private:
   // The first zone of a name counts.
   void AddZone(const CReportTypeZone& zone) {
-    Keys keys;
+    auto keys = std::make_shared<Keys>();
     for (int i = 0; i < zone.GetAvailableValueHolderCount(); ++i) {
-      keys.insert(zone.GetAvailableValueHolderAt(i)->GetInternalName());
+      keys->insert(zone.GetAvailableValueHolderAt(i)->GetInternalName());
     }
-    m_anywhere.insert(keys.begin(), keys.end());
+    m_anywhere.insert(keys->begin(), keys->end());
     m_zones.emplace(zone.GetInternalName(), keys);
     for (int i = 0; i < zone.GetEquivalentInternalNameCount(); ++i) {
       m_zones.emplace(zone.GetEquivalentInternalNameAt(i), keys);
     }
   }
 
-  std::map<std::wstring, Keys> m_zones;
+  std::map<std::wstring, std::shared_ptr<const Keys>> m_zones;  // shared by the names of a zone
   Keys m_anywhere;
 };
 
 class TypeChecker {
  public:
   TypeChecker(const CReportRootElement& report, const CReportType& type)
-      : m_report(report), m_type(type.GetReportType()), m_offer(type), m_names(report) {
+      : m_report(report), m_type(type.GetReportType()), m_offer(type), m_names(report, CutName) {
     for (int i = 0; i < Document().GetReportZoneCount(); ++i) {
       if (CReportZone* zone = Document().GetReportZoneAt(i)) CollectOwnKeys(*zone);
     }
@@ -122,7 +127,8 @@ class TypeChecker {
     m_zone = zone.GetInternalReportZoneName();
     m_place = Names::OfZone(zone);
     if (!m_offer.HasZone(m_zone)) {
-      m_findings.push_back({m_zone, L"", L"the zone is not offered; rename the zone or add it to the type"});
+      m_findings.push_back(
+          {CutName(m_zone), L"", L"the zone is not offered; rename the zone or add it to the type"});
     }
     VisitObjects(zone, [&](const CPlaceable& object) { CheckObject(object); });
   }
@@ -142,11 +148,12 @@ class TypeChecker {
       const std::wstring key = sum->GetSumKey();
       // A sum adds up what other zones offer.
       if (!m_offer.HasAnywhere(key) && !m_ownKeys.contains(key))
-        ComplainOf(field, L"adds up " + key + L", which ");
+        ComplainOf(field, L"adds up " + Shown(key) + L", which ");
     } else if (const auto* copy = dynamic_cast<const CCopyValueHolder*>(&field)) {
       const std::wstring zone = copy->GetRefZoneID();
       const std::wstring key = copy->GetRefVHID();
-      if (!IsThere(zone, key)) ComplainOf(field, L"copies " + key + L" of zone " + zone + L", which ");
+      if (!IsThere(zone, key))
+        ComplainOf(field, L"copies " + Shown(key) + L" of zone " + Shown(zone) + L", which ");
     } else if (!IsOwn(field) && !IsThere(m_zone, field.GetInternalKey())) {
       ComplainOf(field, L"");
     }
@@ -155,7 +162,7 @@ class TypeChecker {
   // A formula that cannot be read reads nothing; that it is bad is not said here.
   void CheckFormula(const CPlaceable& object, const std::wstring& reads, const std::wstring& formula) {
     for (const std::wstring& key : FindVariables(formula).names) {
-      if (!IsThere(m_zone, key)) ComplainOf(object, reads + key + L", which ");
+      if (!IsThere(m_zone, key)) ComplainOf(object, reads + Shown(key) + L", which ");
     }
   }
 
@@ -164,7 +171,7 @@ class TypeChecker {
   }
 
   void ComplainOf(const CPlaceable& object, const std::wstring& does) {
-    m_findings.push_back({m_zone, m_names.Of(&object, m_place),
+    m_findings.push_back({CutName(m_zone), m_names.Of(&object, m_place),
                           does + L"is not offered; take another key or add it to the type"});
   }
 
@@ -181,7 +188,7 @@ class TypeChecker {
 void WriteText(const std::wstring& file, const std::vector<Finding>& findings, std::wstring& output) {
   for (const Finding& finding : findings) {
     output += file + L": ";
-    if (!finding.zone.empty()) output += L"zone " + finding.zone + L": ";
+    if (!finding.zone.empty()) output += L"zone " + QuotedIfNeeded(finding.zone) + L": ";
     if (!finding.subject.empty()) output += finding.subject + L" ";
     output += finding.text + L".\n";
   }

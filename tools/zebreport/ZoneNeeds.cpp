@@ -160,8 +160,10 @@ ZoneNeeds NeedsOfZone(CReportValueHolders& report, int zone) {
     field.place = i < object.GetValueHolderCount() ? L"zone" : L"table cell";
     needs.fields.push_back(std::move(field));
   }
+  std::set<const CValueHolder*> known(objects.begin(), objects.end());  // a formula may be placed and defined
   for (int i = 0; i < object.GetDefinedFormulaValueHoldersCount(); ++i) {
-    needs.fields.push_back(DefinedField(*object.GetDefinedFormulaValueHolderAt(i)));
+    const CFormulaValueHolder* formula = object.GetDefinedFormulaValueHolderAt(i);
+    if (known.insert(formula).second) needs.fields.push_back(DefinedField(*formula));
   }
   AddReadKeys(object, needs);
   AddSumKeys(object, needs);
