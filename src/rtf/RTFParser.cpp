@@ -115,7 +115,11 @@ CRTFParser::~CRTFParser() {
     m_pStack = next;
   }
   FreeOutput();
-  FreeDestinationTables();
+  try {
+    FreeDestinationTables();
+  } catch (const std::bad_alloc&) {
+    // It takes memory to find out what is in the tables twice. Without any, the entries stay behind; the process goes on.
+  }
   delete m_pStore;
   delete[] m_pKeywordTable;
   delete[] m_pPropTable;

@@ -390,6 +390,7 @@ TEST(RTFParser, KnownKeywordBehindAStarSkipsNothing) {
 TEST(RTFParser, StarCountsForTheNextKeywordOnly) {
   EXPECT_EQ(TextOf("{\\*\\b\\unknownkw text}"), L"text");
   EXPECT_EQ(TextOf("{\\*text\\unknownkw lost}"), L"text");
+  EXPECT_EQ(TextOf("{\\*\\'41\\unknownkw text}"), L"Atext");
 }
 
 TEST(RTFParser, FixedStarCountsAcrossBraces) {
