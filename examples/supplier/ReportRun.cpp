@@ -115,12 +115,21 @@ ReportRun::~ReportRun() {
   for (const CFontCharMetricsInfo* character : m_characters) delete character;
 }
 
-// Every formula of the samples is either placed or only defined, so none of these is a zone's.
+// A formula that is placed as well is its zone's.
 void ReportRun::CollectUnowned() {
   for (int i = 0; i < m_report.GetReportZoneCount(); ++i) {
     const CReportZone& zone = Zone(i);
     for (int j = 0; j < zone.GetDefinedFormulaValueHoldersCount(); ++j) {
       m_definedFormulas.insert(zone.GetDefinedFormulaValueHolderAt(j));
+    }
+  }
+  for (int i = 0; i < m_report.GetReportZoneCount(); ++i) {
+    const CReportZone& zone = Zone(i);
+    for (int j = 0; j < zone.GetValueHolderCount(); ++j) {
+      m_definedFormulas.erase(dynamic_cast<CFormulaValueHolder*>(zone.GetValueHolderAt(j)));
+    }
+    for (int j = 0; j < zone.GetFormulaValueHoldersInTableCellsCount(); ++j) {
+      m_definedFormulas.erase(zone.GetFormulaValueHoldersInTableCellsAt(j));
     }
   }
   const CFonts& fonts = *m_report.GetRootElement()->GetReportDocument()->GetFontHandler()->GetFonts();

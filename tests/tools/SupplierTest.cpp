@@ -325,6 +325,17 @@ TEST(Supplier, OffersWhatDefinedFormulasNeedAndNoMore) {
   EXPECT_NE(zone.GetAvailableValueHolder(L"PL.Nks7"), nullptr);
 }
 
+TEST(Supplier, LeavesAFormulaThatIsPlacedAndDefinedToItsZone) {
+  const zebtest::TempDir dir;
+  constexpr const char* kPlaced = "<FormulaVHID>63</FormulaVHID>";
+  zebtest::WriteFile(dir.File("report.xml"),
+                     Changed(zebtest::ReadFile(kInvoice.parent_path() / "report.xml"), kPlaced,
+                             std::string(kPlaced) + "<FormulaVHID>64</FormulaVHID>"));
+  zebtest::WriteFile(dir.File("data.json"), zebtest::ReadFile(kInvoice));
+  supplier::ReportRun run(dir.File("data.json"), ZEB_SHARE);
+  EXPECT_EQ(run.Print().size(), PrintSample("invoice").size());
+}
+
 TEST(Supplier, GivesTheSameAtASecondRun) {
   supplier::ReportRun run(kInvoice, ZEB_SHARE);
   run.Print();
