@@ -1,40 +1,15 @@
 // Every allocation of a reading and a writing fails once. The program's own allocations are replaced for that, so that
 // these tests are a program of their own.
 
+#include "support/FailingAllocations.h"
 #include "support/XMLText.h"
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <new>
 #include <string>
-
-namespace {
-
-constexpr int kNever = -1;
-int s_iAllocationsUntilFailure = kNever;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  if (s_iAllocationsUntilFailure == 0) {
-    s_iAllocationsUntilFailure = kNever;
-    throw std::bad_alloc();
-  }
-  if (s_iAllocationsUntilFailure > 0) --s_iAllocationsUntilFailure;
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
 
 namespace {
 
@@ -49,14 +24,12 @@ template <class Action, class Check>
 int FailEachAllocation(Action action, Check check) {
   int reported = 0;
   for (int allocation = 0;; ++allocation) {
-    s_iAllocationsUntilFailure = allocation;
+    zebtest::FailAllocation(allocation);
     try {
       action();
-      const bool anyFailed = s_iAllocationsUntilFailure == kNever;
-      s_iAllocationsUntilFailure = kNever;
-      if (!anyFailed) return reported;
+      if (!zebtest::StopFailing()) return reported;
     } catch (const CXMLException& exception) {
-      s_iAllocationsUntilFailure = kNever;
+      zebtest::StopFailing();
       EXPECT_EQ(exception.GetErrorCode(), CXMLException::OutOfMemory);
       check();
       ++reported;
