@@ -325,9 +325,8 @@ class ZEB_EXPORT CFontMetrics {
   std::map<int, std::wstring> m_OwnCharNames;           // by code; those that were set singly
   bool m_bUnicodeFont = false;
   CharColl m_CharColl = static_cast<CharColl>(-1);
-  CFontData* m_pSubsetData = nullptr;  // owned, shared by copies
-  std::array<unsigned short, 256> m_rgusGlyphPages =
-      {};  // of 256 codes each, counted from 1; 0 if none has a glyph
+  CFontData* m_pSubsetData = nullptr;                     // owned, shared by copies
+  std::array<unsigned short, 256> m_rgusGlyphPages = {};  // numbers of pages, from 1; 0 if there is none
   std::vector<GlyphPage> m_GlyphPages;
   std::map<unsigned short, unsigned short> m_GlyphToNewIndex = {{0, 0}, {1, 1}, {2, 2}};
   std::map<unsigned short, unsigned short> m_NewIndexToGlyph = {{0, 0}, {1, 1}, {2, 2}};

@@ -97,9 +97,8 @@ class TrueTypeGlyphs {
   TrueTypeGlyphNames m_Names;
   std::vector<CodeOfGlyph> m_Codes;
 
-  std::deque<CTrueTypeHMtxEntry> m_Records;  // in the order in which they were made
-  std::vector<CTrueTypeHMtxEntry*>
-      m_rgpRecords;  // observers, indexed by glyph; empty as long as none was made
+  std::deque<CTrueTypeHMtxEntry> m_Records;       // in the order in which they were made
+  std::vector<CTrueTypeHMtxEntry*> m_rgpRecords;  // observers, by glyph; empty as long as none was made
   std::vector<unsigned short> m_rgusSortedCodes;  // by their glyphs; empty as long as no codes were asked for
   std::vector<std::uint32_t> m_rguFirstCode;  // of each glyph, an index into the vector above; and the end
 };
